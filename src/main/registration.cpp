@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "registration.h"
+
+#include "battery.h"
+#include "factoryutils.h"
+#include "kivutils.h"
+#include "radiopreference.h"
+
+#include <QtQml>
+
+namespace
+{
+const char Uri[] = "Kiv";
+constexpr int Major = 1;
+constexpr int Minor = 0;
+
+template<typename Type>
+void registerType(const char *name)
+{
+    qmlRegisterType<Type>(Uri, Major, Minor, name);
+}
+
+// The engine calls a provider once and owns what it returns.
+QObject *factoryUtilsProvider(QQmlEngine *, QJSEngine *)
+{
+    return new FactoryUtils(nullptr);
+}
+}
+
+// The order of the rows fixes the type ids. A class that is not built yet has no row:
+//  1 HeadsetDetect   2 HallDetect   3 Recorder          4 PaCmd             5 Battery      6 GyroSensor
+//  7 Touch           8 SdCardTest   9 RadioPreference  10 Uptime           11 Zel         12 UsbOtg
+// 13 Gps            14 KivUtils    15 Processes        16 Mce              17 PulseAudio  18 CalibrationTest
+// 19 MacValidator   20 AudioRoute  21 FactoryUtils     22 Features         23 KivHwSettings
+// 24 SensorCalibrationResolver     25 SensorCalibration                    26 MceButtonBacklight
+void registerKivTypes()
+{
+    registerType<Battery>("Battery");
+    registerType<RadioPreference>("RadioPreference");
+    registerType<KivUtils>("KivUtils");
+    qmlRegisterSingletonType<FactoryUtils>(Uri, Major, Minor, "FactoryUtils", factoryUtilsProvider);
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "signalhandler.h"
+
+#include <QDebug>
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <utility>
+
+#include <signal.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace
+{
+constexpr char TermByte = 1;
+constexpr int WriteEnd = 0;
+constexpr int ReadEnd = 1;
+}
+
+int SignalHandler::s_socketPair[2] = {-1, -1};
+
+SignalHandler::SignalHandler(QObject *parent) : QObject(parent)
+{
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, s_socketPair) != 0) {
+        qWarning() << "Could not create socket pair for TERM signal handler, device state may not be restored on "
+                      "termination.";
+        s_socketPair[WriteEnd] = -1;
+        s_socketPair[ReadEnd] = -1;
+        return;
+    }
+
+    m_notifier = new QSocketNotifier(s_socketPair[ReadEnd], QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, &SignalHandler::signalReceived);
+
+    struct sigaction action = {};
+    action.sa_handler = &SignalHandler::handleTermSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags |= SA_RESTART;
+    if (sigaction(SIGTERM, &action, nullptr) > 0) {
+        qWarning() << "Could not set sigaction for TERM signal handler, device state may not be restored on "
+                      "termination.";
+    }
+}
+
+SignalHandler::~SignalHandler()
+{
+    delete m_notifier;
+    // The handler stays installed: a late SIGTERM must not write into whatever file gets this number next.
+    ::close(std::exchange(s_socketPair[WriteEnd], -1));
+    ::close(std::exchange(s_socketPair[ReadEnd], -1));
+}
+
+void SignalHandler::handleTermSignal(int)
+{
+    const int savedErrno = errno;
+    const ssize_t written = ::write(s_socketPair[WriteEnd], &TermByte, sizeof(TermByte));
+    Q_UNUSED(written)
+    errno = savedErrno;
+}
+
+void SignalHandler::signalReceived()
+{
+    m_notifier->setEnabled(false);
+    char byte = 0;
+    if (::read(s_socketPair[ReadEnd], &byte, sizeof(byte)) == sizeof(byte) && byte == TermByte)
+        Q_EMIT termSignalReceived();
+    m_notifier->setEnabled(true);
+}
