@@ -9,5 +9,7 @@ KivUtils::KivUtils(QObject *parent) : QObject(parent)
 
 bool KivUtils::removeFile(QUrl url) // NOLINT(performance-unnecessary-value-param)
 {
-    return QFile::remove(url.toLocalFile());
+    // Qt would complain about an empty name.
+    const QString path = url.toLocalFile();
+    return !path.isEmpty() && QFile::remove(path);
 }

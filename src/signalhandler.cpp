@@ -22,7 +22,8 @@ int SignalHandler::s_socketPair[2] = {-1, -1};
 
 SignalHandler::SignalHandler(QObject *parent) : QObject(parent)
 {
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, s_socketPair) != 0) {
+    // Non-blocking, or a burst of signals would hang the process in the handler while its own thread is the reader.
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, s_socketPair) != 0) {
         qWarning() << "Could not create socket pair for TERM signal handler, device state may not be restored on "
                       "termination.";
         s_socketPair[WriteEnd] = -1;

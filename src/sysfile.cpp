@@ -46,7 +46,10 @@ QByteArray readUntil(const QString &path, int delimiter)
 
 QByteArray readFirstLine(const QString &path)
 {
-    return readUntil(path, '\n');
+    QByteArray line = readUntil(path, '\n');
+    if (line.contains('\r'))
+        line.replace("\r", "");
+    return line;
 }
 
 QByteArray readWholeFile(const QString &path)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "pagecache.h"
 #include "registration.h"
 #include "signalhandler.h"
 
@@ -21,6 +22,8 @@ namespace
 {
 const QString CatalogueDirectory = QStringLiteral("/usr/share/translations");
 const QString EngineeringCatalogue = QStringLiteral("kiv_eng_en");
+// Empty, not null, which would stand for Qt's own: a catalogue of a shorter name is none of English.
+const QString NoDelimiters = QLatin1String("");
 const QString LocaleCatalogue = QStringLiteral("kiv");
 const QString LocaleCataloguePrefix = QStringLiteral("-");
 
@@ -48,12 +51,13 @@ QString loadDisclaimer()
 /*! What main() calls once it has given up its privileges. Returns the exit status of the process. */
 extern "C" Q_DECL_EXPORT int kivApplicationMain(int argc, char **argv)
 {
+    usePrecompiledPagesOnly();
     registerKivTypes();
     QQuickWindow::setDefaultAlphaBuffer(true);
 
     // Destroyed in the reverse of this order when the event loop has ended.
     const auto engineering = std::make_unique<QTranslator>(nullptr);
-    engineering->load(EngineeringCatalogue, CatalogueDirectory);
+    engineering->load(EngineeringCatalogue, CatalogueDirectory, NoDelimiters);
     const auto localised = std::make_unique<QTranslator>(nullptr);
     localised->load(QLocale(), LocaleCatalogue, LocaleCataloguePrefix, CatalogueDirectory);
 
