@@ -3,8 +3,13 @@
 
 #include "battery.h"
 #include "factoryutils.h"
+#include "gps.h"
 #include "kivutils.h"
+#include "mce.h"
+#include "mcebuttonbacklight.h"
 #include "radiopreference.h"
+#include "usbotg.h"
+#include "zel.h"
 
 #include <QtQml>
 
@@ -37,6 +42,12 @@ void registerKivTypes()
 {
     registerType<Battery>("Battery");
     registerType<RadioPreference>("RadioPreference");
+    registerType<Zel>("Zel");
+    registerType<UsbOtg>("UsbOtg");
+    registerType<Gps>("Gps");
     registerType<KivUtils>("KivUtils");
+    registerType<Mce>("Mce");
     qmlRegisterSingletonType<FactoryUtils>(Uri, Major, Minor, "FactoryUtils", factoryUtilsProvider);
+    qmlRegisterUncreatableType<MceButtonBacklight>(Uri, Major, Minor, "MceButtonBacklight",
+                                                   QStringLiteral("MceButtonBacklight class exists for enums only"));
 }

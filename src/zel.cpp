@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "zel.h"
+
+#include "dbuscall.h"
+
+#include <QDBusArgument>
+#include <QDBusPendingCallWatcher>
+#include <QDebug>
+
+namespace
+{
+const QString Service = QStringLiteral("com.orvel.zeld");
+const QString Path = QStringLiteral("/com/orvel/zeld");
+const QString Interface = QStringLiteral("com.orvel.zeld");
+const QString PropertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+
+const QLatin1String ReadyProperty("Ready");
+const QLatin1String DockedProperty("Docked");
+const QLatin1String IdProperty("ZELID");
+
+/*! The properties in a reply; none where it carries something else. */
+QVariantMap propertiesIn(const QDBusMessage &reply)
+{
+    // Demarshalling anything but exactly this into a map ends the process.
+    const auto marshalled = reply.arguments().value(0).value<QDBusArgument>();
+    if (marshalled.currentSignature() != QLatin1String("a{sv}"))
+        return QVariantMap();
+    return qdbus_cast<QVariantMap>(marshalled);
+}
+}
+
+Zel::Zel(QObject *parent) : QObject(parent)
+{
+    QDBusConnection bus = QDBusConnection::systemBus();
+    // With the signature, so that a broadcast of any other shape is left out before Qt tries to convert it.
+    bus.connect(Service, Path, PropertiesInterface, QStringLiteral("PropertiesChanged"), QStringList(),
+                QStringLiteral("sa{sv}as"), this, SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
+
+    // Without a QDBusInterface, whose constructor starts the daemon and waits until that has described itself.
+    QDBusMessage call = QDBusMessage::createMethodCall(Service, Path, PropertiesInterface, QStringLiteral("GetAll"));
+    call << Interface;
+    const auto *watcher = new QDBusPendingCallWatcher(callRunningService(bus, call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, &Zel::getPropertiesFinished);
+}
+
+bool Zel::ready() const
+{
+    return m_ready != 0;
+}
+
+bool Zel::docked() const
+{
+    return m_docked != 0;
+}
+
+QString Zel::zelId() const
+{
+    return m_zelId;
+}
+
+bool Zel::error() const
+{
+    return m_error;
+}
+
+void Zel::getPropertiesFinished(QDBusPendingCallWatcher *watcher)
+{
+    watcher->deleteLater();
+    if (watcher->isError()) {
+        m_error = true;
+        Q_EMIT errorChanged();
+        return;
+    }
+    updateProperties(propertiesIn(watcher->reply()));
+}
+
+void Zel::propertiesChanged(const QString &interfaceName, const QVariantMap &changedProperties,
+                            const QStringList &invalidatedProperties)
+{
+    if (interfaceName != Interface)
+        return;
+    updateProperties(changedProperties);
+    for (const QString &name : invalidatedProperties)
+        updateProperty(name, QVariant());
+}
+
+void Zel::updateProperties(const QVariantMap &properties)
+{
+    for (auto property = properties.cbegin(); property != properties.cend(); ++property)
+        updateProperty(property.key(), property.value());
+}
+
+// Signals without a change too: the page reads anew on every report.
+void Zel::updateProperty(const QString &name, const QVariant &value)
+{
+    if (name == ReadyProperty) {
+        m_ready = value.toInt();
+        Q_EMIT readyChanged();
+    } else if (name == DockedProperty) {
+        m_docked = value.toInt();
+        Q_EMIT dockedChanged();
+    } else if (name == IdProperty) {
+        m_zelId = value.toString();
+        Q_EMIT zelIdChanged();
+    } else {
+        qDebug() << "Unknown property" << name << value;
+    }
+}
