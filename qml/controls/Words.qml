@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+
+/*! Running text: it wraps and is never cut off. */
+Text {
+    color: Theme.text
+    font.pixelSize: Theme.body
+    wrapMode: Text.Wrap
+    textFormat: Text.PlainText
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+}

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: BSD-3-Clause
+.pragma library
+
+// Every test, in the order in which the factory sequence runs them. A test that has a page file is offered; one that has
+// none yet is listed as not available.
+//   needs:   features of which the phone must have at least one; none: every phone has it
+//   kind:    "measured" decides by itself, "guided" is judged by the operator
+//   seconds: how long a practised operator takes
+//   runIn:   place in the run-in sequence where that differs from this order
+var rows = [
+    //% "Touch panel self-test"
+    { name: "TouchSelfTest", title: QT_TRID_NOOP("kiv-test-touch-self"), needs: ["TouchAuto"], page: "",
+      glyph: "touch", kind: "measured", seconds: 10 },
+    //% "Touch panel"
+    { name: "VerificationTouch", title: QT_TRID_NOOP("kiv-test-touch"), needs: ["Touch"], page: "",
+      glyph: "touch", kind: "measured", seconds: 30 },
+    //% "Several fingers"
+    { name: "VerificationMultiTouch", title: QT_TRID_NOOP("kiv-test-multi-touch"), needs: ["Touch"], page: "",
+      glyph: "multitouch", kind: "measured", seconds: 15 },
+    //% "Display"
+    { name: "VerificationLcd", title: QT_TRID_NOOP("kiv-test-lcd"), needs: ["LCD"], page: "",
+      glyph: "display", kind: "guided", seconds: 25, runIn: 3 },
+    //% "Display backlight"
+    { name: "VerificationLcdBacklight", title: QT_TRID_NOOP("kiv-test-lcd-backlight"), needs: ["Backlight"], page: "",
+      glyph: "light", kind: "guided", seconds: 15, runIn: 1 },
+    //% "Light sensor"
+    { name: "VerificationLightSensor", title: QT_TRID_NOOP("kiv-test-light"), needs: ["LightSensor"], page: "",
+      glyph: "light", kind: "measured", seconds: 15 },
+    //% "Proximity sensor"
+    { name: "VerificationProxSensor", title: QT_TRID_NOOP("kiv-test-prox"), needs: ["ProxSensor"], page: "",
+      glyph: "proximity", kind: "measured", seconds: 15 },
+    //% "Gyroscope and accelerometer"
+    { name: "VerificationGyroAndGSensor", title: QT_TRID_NOOP("kiv-test-gyro"), needs: ["GSensor", "Gyro"], page: "",
+      glyph: "motion", kind: "measured", seconds: 20 },
+    //% "Compass"
+    { name: "VerificationEcompass", title: QT_TRID_NOOP("kiv-test-ecompass"), needs: ["ECompass"], page: "",
+      glyph: "compass", kind: "measured", seconds: 25 },
+    //% "Cover magnet switch"
+    { name: "VerificationHallDetect", title: QT_TRID_NOOP("kiv-test-hall"), needs: ["Hall"], page: "",
+      glyph: "hall", kind: "measured", seconds: 15 },
+    //% "Fingerprint reader"
+    { name: "VerificationFingerprint", title: QT_TRID_NOOP("kiv-test-fingerprint"), needs: ["Fingerprint"], page: "",
+      glyph: "fingerprint", kind: "guided", seconds: 20 },
+    //% "Microphone 1"
+    { name: "VerificationAudio1Mic", title: QT_TRID_NOOP("kiv-test-mic-1"), needs: ["AudioMic1"], page: "",
+      glyph: "microphone", kind: "guided", seconds: 25 },
+    //% "Microphone 2"
+    { name: "VerificationAudio2Mic", title: QT_TRID_NOOP("kiv-test-mic-2"), needs: ["AudioMic2"], page: "",
+      glyph: "microphone", kind: "guided", seconds: 25 },
+    //% "Loudspeaker music"
+    { name: "AudioPlayMusicLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-music"), needs: ["Loudspeaker"], page: "",
+      glyph: "speaker", kind: "guided", seconds: 15, runIn: 4 },
+    //% "Loudspeaker left and right"
+    { name: "AudioPlayStereoLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-stereo"), needs: ["Loudspeaker"], page: "",
+      glyph: "speaker", kind: "guided", seconds: 20 },
+    //% "Earpiece"
+    { name: "AudioPlayMusicReceiver", title: QT_TRID_NOOP("kiv-test-receiver"), needs: ["Receiver"], page: "",
+      glyph: "receiver", kind: "guided", seconds: 15 },
+    //% "Headset buttons"
+    { name: "VerificationHeadsetButtons", title: QT_TRID_NOOP("kiv-test-headset-buttons"), needs: ["Headset"], page: "",
+      glyph: "headset", kind: "measured", seconds: 20 },
+    //% "Headset socket"
+    { name: "VerificationHeadset", title: QT_TRID_NOOP("kiv-test-headset"), needs: ["Headset"], page: "",
+      glyph: "headset", kind: "measured", seconds: 20 },
+    //% "Headset music"
+    { name: "AudioPlayMusicHeadset", title: QT_TRID_NOOP("kiv-test-headset-music"), needs: ["Headset"], page: "",
+      glyph: "headset", kind: "guided", seconds: 20 },
+    //% "Front camera"
+    { name: "VerificationFrontCamera", title: QT_TRID_NOOP("kiv-test-front-camera"), needs: ["FrontCamera"], page: "",
+      glyph: "camera", kind: "guided", seconds: 20 },
+    //% "Back camera"
+    { name: "VerificationBackCamera", title: QT_TRID_NOOP("kiv-test-back-camera"), needs: ["BackCamera"], page: "",
+      glyph: "camera", kind: "guided", seconds: 20, runIn: 2 },
+    //% "Wi-Fi"
+    { name: "VerificationWifi", title: QT_TRID_NOOP("kiv-test-wifi"), needs: ["Wifi"], page: "",
+      glyph: "radio", kind: "measured", seconds: 20 },
+    //% "Bluetooth"
+    { name: "VerificationBluetooth", title: QT_TRID_NOOP("kiv-test-bluetooth"), needs: ["Bluetooth"], page: "",
+      glyph: "bluetooth", kind: "measured", seconds: 20 },
+    //% "Smart cover"
+    { name: "VerificationZel", title: QT_TRID_NOOP("kiv-test-zel"), needs: ["ZEL"], page: "",
+      glyph: "cover", kind: "measured", seconds: 30 },
+    //% "Satellite positioning"
+    { name: "VerificationGpsRadio", title: QT_TRID_NOOP("kiv-test-gps"), needs: ["GPS"], page: "",
+      glyph: "gps", kind: "measured", seconds: 90 },
+    //% "FM radio"
+    { name: "VerificationFmRadio", title: QT_TRID_NOOP("kiv-test-fm-radio"), needs: ["FmRadio"], page: "",
+      glyph: "fm", kind: "guided", seconds: 30 },
+    //% "Battery"
+    { name: "VerificationBattery", title: QT_TRID_NOOP("kiv-test-battery"), needs: ["Battery"], page: "VerificationBattery.qml",
+      glyph: "battery", kind: "measured", seconds: 10 },
+    //% "USB charging"
+    { name: "VerificationUsbCharging", title: QT_TRID_NOOP("kiv-test-usb-charging"), needs: ["UsbCharging"], page: "VerificationUsbCharging.qml",
+      glyph: "charging", kind: "measured", seconds: 30 },
+    //% "Notification light"
+    { name: "VerificationLED", title: QT_TRID_NOOP("kiv-test-led"), needs: ["LED"], page: "",
+      glyph: "led", kind: "guided", seconds: 20 },
+    //% "Key illumination"
+    { name: "VerificationButtonBacklight", title: QT_TRID_NOOP("kiv-test-button-backlight"), needs: ["Backlight"], page: "",
+      glyph: "light", kind: "guided", seconds: 15 },
+    //% "Vibrator"
+    { name: "VerificationVibrator", title: QT_TRID_NOOP("kiv-test-vibrator"), needs: ["Vibrator"], page: "",
+      glyph: "vibrator", kind: "guided", seconds: 15 },
+    //% "SIM card"
+    { name: "VerificationSim", title: QT_TRID_NOOP("kiv-test-sim"), needs: ["SIM"], page: "",
+      glyph: "sim", kind: "measured", seconds: 20 },
+    //% "Memory card"
+    { name: "VerificationSdCard", title: QT_TRID_NOOP("kiv-test-sd-card"), needs: ["SDCard"], page: "",
+      glyph: "sdcard", kind: "measured", seconds: 20 },
+    //% "Keys"
+    { name: "VerificationKey", title: QT_TRID_NOOP("kiv-test-key"), needs: ["Key"], page: "",
+      glyph: "key", kind: "measured", seconds: 15 },
+    //% "USB host"
+    { name: "VerificationUsbOtg", title: QT_TRID_NOOP("kiv-test-usb-otg"), needs: ["UsbOtg"], page: "",
+      glyph: "usb", kind: "measured", seconds: 30 },
+    //% "Video playback"
+    { name: "VerificationVideoPlayback", title: QT_TRID_NOOP("kiv-test-video"), needs: ["VideoPlayback"], page: "",
+      glyph: "video", kind: "guided", seconds: 30, runIn: 5 },
+    //% "Battery resistance"
+    { name: "VerificationBatteryResistance", title: QT_TRID_NOOP("kiv-test-battery-resistance"), needs: ["Battery"], page: "",
+      glyph: "battery", kind: "measured", seconds: 60 },
+    //% "Suspend"
+    { name: "Suspend", title: QT_TRID_NOOP("kiv-test-suspend"), needs: ["Suspend"], page: "",
+      glyph: "sleep", kind: "guided", seconds: 30 },
+    //% "Restart"
+    { name: "Reboot", title: QT_TRID_NOOP("kiv-test-reboot"), needs: ["Reboot"], page: "",
+      glyph: "power", kind: "guided", seconds: 60 },
+    //% "Phone call"
+    { name: "CellularVoice", title: QT_TRID_NOOP("kiv-test-cellular-voice"), needs: ["CellularVoice"], page: "",
+      glyph: "call", kind: "guided", seconds: 60 },
+    //% "Mobile data"
+    { name: "CellularData", title: QT_TRID_NOOP("kiv-test-cellular-data"), needs: ["CellularData"], page: "",
+      glyph: "data", kind: "guided", seconds: 60 },
+    //% "Network addresses"
+    { name: "MacAddresses", title: QT_TRID_NOOP("kiv-test-mac-addresses"), needs: ["MacAddresses"], page: "MacAddresses.qml",
+      glyph: "address", kind: "measured", seconds: 5 },
+    //% "Calibration record"
+    { name: "Calibration", title: QT_TRID_NOOP("kiv-test-calibration"), needs: [], page: "Calibration.qml",
+      glyph: "calibration", kind: "measured", seconds: 5 },
+    //% "Sensor calibration"
+    { name: "SensorCalibration", title: QT_TRID_NOOP("kiv-test-sensor-calibration"), needs: [], page: "",
+      glyph: "calibration", kind: "guided", seconds: 60 },
+    //% "System state"
+    { name: "SystemState", title: QT_TRID_NOOP("kiv-test-system"), needs: [], page: "",
+      glyph: "system", kind: "guided", seconds: 20 }
+];
+
+// The values of Features.TestMode.
+var FactoryTests = 0;
+var RunInTests = 1;
+var AllTests = 2;
+
+function row(name) {
+    for (var i = 0; i < rows.length; ++i) {
+        if (rows[i].name === name)
+            return rows[i];
+    }
+    return null;
+}
+
+// The same question for a feature as a whole or, where the configuration names it, for one test of it.
+function supported(row, features) {
+    return row.needs.length === 0 || row.needs.some(function(feature) {
+        return features.supported(feature, row.name);
+    });
+}
+
+function enabled(row, mode, features) {
+    if (mode === FactoryTests)
+        return features.factoryTestEnabled(row.name);
+    if (mode === RunInTests)
+        return features.runInTestEnabled(row.name);
+    return true;
+}
+
+// What a sequence consists of, in its order: [{row, state}] with state "ready", "absent" (the phone lacks the hardware)
+// or "unwritten" (there is no page).
+function plan(mode, features) {
+    var chosen = rows.filter(function(row) { return enabled(row, mode, features); });
+    if (mode === RunInTests) {
+        chosen = chosen.filter(function(row) { return row.runIn; })
+                       .sort(function(a, b) { return a.runIn - b.runIn; })
+                       .concat(chosen.filter(function(row) { return !row.runIn; }));
+    }
+    return chosen.map(function(row) {
+        var state = !supported(row, features) ? "absent" : row.page === "" ? "unwritten" : "ready";
+        return { row: row, state: state };
+    });
+}

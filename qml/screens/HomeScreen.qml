@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import "../controls"
+import "../flow/TestTable.js" as TestTable
+
+/*! The three sequences. It is the first screen, so it asks the phone nothing. */
+Item {
+    id: screen
+
+    property var shell
+
+    Header {
+        id: header
+        width: parent.width
+        backVisible: false
+        //% "Kiv"
+        title: qsTrId("kiv-ap-name")
+        //% "Hardware tests"
+        subtitle: qsTrId("kiv-home-subtitle")
+        trailing: PushButton {
+            width: Theme.target
+            height: Theme.target
+            outlined: false
+            fill: "transparent"
+            glyph: "settings"
+            //% "This phone and settings"
+            Accessible.name: qsTrId("kiv-home-settings")
+            onClicked: screen.shell.show("SettingsScreen")
+        }
+    }
+    Scroller {
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+
+        Words {
+            width: parent.width
+            //% "Which tests shall run?"
+            text: qsTrId("kiv-home-question")
+            color: Theme.muted
+        }
+        ModeButton {
+            width: parent.width
+            glyph: "factory"
+            //% "Factory sequence"
+            text: qsTrId("kiv-mode-factory")
+            //% "Every part of the phone once, in a fixed order"
+            detail: qsTrId("kiv-mode-factory-detail")
+            onClicked: screen.shell.chooseSequence(TestTable.FactoryTests)
+        }
+        ModeButton {
+            width: parent.width
+            glyph: "runin"
+            //% "Run-in"
+            text: qsTrId("kiv-mode-run-in")
+            //% "The tests that warm a new phone up"
+            detail: qsTrId("kiv-mode-run-in-detail")
+            onClicked: screen.shell.chooseSequence(TestTable.RunInTests)
+        }
+        ModeButton {
+            width: parent.width
+            glyph: "list"
+            //% "All tests"
+            text: qsTrId("kiv-mode-all")
+            //% "Everything that this phone has, singly or in a row"
+            detail: qsTrId("kiv-mode-all-detail")
+            onClicked: screen.shell.chooseSequence(TestTable.AllTests)
+        }
+    }
+}

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import Kiv 1.0
+import "../controls"
+import "../controls/VerdictStyle.js" as Style
+
+/*! What came out, readable from two metres. It stays until the next phone. */
+Item {
+    id: screen
+
+    property var shell
+    readonly property var flow: shell ? shell.flow : null
+    readonly property int failed: flow ? flow.count(FactoryUtils.Fail) : 0
+    readonly property int untested: flow ? flow.count(FactoryUtils.Untest) : 0
+    readonly property string code: failed > 0 ? FactoryUtils.Fail : untested > 0 ? FactoryUtils.Untest
+                                                                                 : FactoryUtils.Pass
+    readonly property var look: Style.looks[code]
+    readonly property var order: [FactoryUtils.Fail, FactoryUtils.Untest, FactoryUtils.NA, FactoryUtils.Pass]
+    readonly property var sorted: {
+        var all = [];
+        for (var i = 0; flow && i < order.length; ++i)
+            all = all.concat(flow.entries.filter(function(entry) { return flow.entryCode(entry) === order[i]; }));
+        return all;
+    }
+
+    function remark(entry) {
+        if (entry.state === "absent")
+            return qsTrId("kiv-list-absent");
+        if (entry.state === "unwritten")
+            return qsTrId("kiv-list-unwritten");
+        var result = flow.results[entry.row.name];
+        if (!result)
+            return "";
+        var parts = [];
+        if (result.overruled)
+            //: The operator's verdict differs from the page's own, which follows
+            //% "Overruled by the operator; measured: %1"
+            parts.push(qsTrId("kiv-summary-overruled").arg(Style.word(result.decided)));
+        if (result.reason !== "")
+            parts.push(result.reason);
+        if (result.attempts > 1)
+            //% "Attempts: %1"
+            parts.push(qsTrId("kiv-summary-attempts").arg(result.attempts));
+        return parts.join("\n");
+    }
+
+    Rectangle {
+        id: banner
+        width: parent.width
+        height: bannerColumn.height + 2 * Theme.margin
+        color: Theme[screen.look.ink]
+
+        Column {
+            id: bannerColumn
+            x: Theme.margin
+            y: Theme.margin
+            width: parent.width - 2 * Theme.margin
+            spacing: Theme.gap
+
+            Icon {
+                anchors.horizontalCenter: parent.horizontalCenter
+                name: screen.look.glyph
+                color: Theme[screen.look.on]
+                size: 9 * Theme.unit
+            }
+            Words {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                color: Theme[screen.look.on]
+                font.pixelSize: Theme.display
+                font.weight: Font.Bold
+                text: screen.failed > 0 ? Style.word(FactoryUtils.Fail)
+                      //% "Not complete"
+                      : screen.untested > 0 ? qsTrId("kiv-summary-incomplete") : Style.word(FactoryUtils.Pass)
+            }
+        }
+    }
+    Row {
+        id: counts
+        anchors.top: banner.bottom
+        width: parent.width
+
+        Repeater {
+            model: screen.order
+
+            Rectangle {
+                readonly property var look: Style.looks[modelData]
+                width: counts.width / 4
+                height: tally.height + Theme.margin
+                color: Theme[look.tint]
+
+                Column {
+                    id: tally
+                    anchors.centerIn: parent
+                    width: parent.width - Theme.gap
+
+                    Words {
+                        width: parent.width
+                        horizontalAlignment: Text.AlignHCenter
+                        font.pixelSize: Theme.title
+                        font.weight: Font.Bold
+                        color: Theme[look.ink]
+                        text: screen.flow ? screen.flow.count(modelData) : ""
+                    }
+                    Words {
+                        width: parent.width
+                        horizontalAlignment: Text.AlignHCenter
+                        font.pixelSize: Theme.small
+                        color: Theme[look.ink]
+                        text: Style.word(modelData)
+                    }
+                }
+            }
+        }
+    }
+    ListView {
+        id: list
+        anchors.top: counts.bottom
+        anchors.bottom: footer.top
+        width: parent.width
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        model: screen.sorted
+
+        delegate: Rectangle {
+            id: line
+            readonly property var entry: modelData
+            readonly property string code: screen.flow.entryCode(entry)
+            readonly property var look: Style.looks[code]
+
+            width: list.width
+            height: Math.max(7 * Theme.unit, names.height + Theme.margin)
+            color: Theme.surface
+            Accessible.role: Accessible.ListItem
+            Accessible.name: title.text + ", " + Style.word(code) + ", " + code + ", " + detail.text
+
+            Icon {
+                id: mark
+                x: Theme.margin
+                anchors.verticalCenter: parent.verticalCenter
+                name: line.look.glyph
+                color: Theme[line.look.ink]
+            }
+            Column {
+                id: names
+                anchors.left: mark.right
+                anchors.leftMargin: Theme.margin
+                anchors.right: codeText.left
+                anchors.rightMargin: Theme.gap
+                anchors.verticalCenter: parent.verticalCenter
+
+                Words {
+                    id: title
+                    width: parent.width
+                    text: qsTrId(line.entry.row.title)
+                    font.weight: Font.DemiBold
+                    Accessible.ignored: true
+                }
+                Words {
+                    id: detail
+                    width: parent.width
+                    text: screen.remark(line.entry)
+                    visible: text !== ""
+                    color: Theme.muted
+                    font.pixelSize: Theme.small
+                    Accessible.ignored: true
+                }
+            }
+            Words {
+                id: codeText
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.margin
+                anchors.verticalCenter: parent.verticalCenter
+                text: line.code
+                color: Theme[line.look.ink]
+                font.weight: Font.DemiBold
+                Accessible.ignored: true
+            }
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: Theme.hairline
+                color: Theme.line
+            }
+        }
+    }
+    Footer {
+        id: footer
+        anchors.bottom: parent.bottom
+        width: parent.width
+
+        Row {
+            width: parent.width
+            spacing: Theme.gap
+
+            PushButton {
+                width: (parent.width - parent.spacing) / 2
+                readonly property var failedRows: screen.flow ? screen.flow.rowsWith(FactoryUtils.Fail) : []
+                text: failedRows.length > 0
+                      ? //% "Retest the failed"
+                        qsTrId("kiv-summary-retest")
+                      : //% "Back to the list"
+                        qsTrId("kiv-summary-list")
+                onClicked: {
+                    if (failedRows.length > 0)
+                        screen.shell.startRun(failedRows);
+                    else
+                        screen.shell.show("ListScreen");
+                }
+            }
+            PushButton {
+                width: (parent.width - parent.spacing) / 2
+                fill: Theme.accent
+                ink: Theme.accentInk
+                //% "Next phone"
+                text: qsTrId("kiv-summary-next")
+                onClicked: screen.shell.nextUnit()
+            }
+        }
+    }
+}
