@@ -452,5 +452,680 @@
         <source>Looking at what this phone has</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-step-done">
+        <source>done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-calibration-instructions">
+        <source>The calibration record that production wrote is compared with what is asked of this product.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-calibration-hint">
+        <source>Pass unlocks when the record has been read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-calibration-any">
+        <source>must not be empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mac-criteria">
+        <source>must match %1</source>
+        <extracomment>A pattern that an address has to match</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-calibration-good">
+        <source>The record is as it must be.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-calibration-flag">
+        <source>Calibration flag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-calibration-text">
+        <source>Calibration text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mac-instructions">
+        <source>The addresses that production gave to the radios are compared with what is asked of this product.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mac-hint">
+        <source>Pass unlocks when the addresses have been read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mac-missing">
+        <source>This phone has neither Bluetooth nor Wi-Fi.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mac-good">
+        <source>Every address matches its pattern.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mac-bluetooth">
+        <source>Bluetooth address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mac-wireless">
+        <source>Wi-Fi address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-accelerometer">
+        <source>Accelerometer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-als">
+        <source>Ambient light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-compass">
+        <source>Compass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-gyroscope">
+        <source>Gyroscope</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-humidity">
+        <source>Humidity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-lid">
+        <source>Lid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-magnetometer">
+        <source>Magnetometer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-orientation">
+        <source>Orientation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-pressure">
+        <source>Air pressure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-proximity">
+        <source>Proximity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-rotation">
+        <source>Rotation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-stepcounter">
+        <source>Step counter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-tap">
+        <source>Tap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-temperature">
+        <source>Temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-instructions">
+        <source>Calibrate a sensor, take back its last calibration, or return to the factory&apos;s. Then judge by its values.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-hint">
+        <source>Pass unlocks when a sensor has been calibrated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-working">
+        <source>Asking the sensors for their calibration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-missing">
+        <source>No sensor of this phone can be calibrated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-running">
+        <source>Calibrating: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-done">
+        <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-failed">
+        <source>The calibration helper failed. It is not asked again until this page is opened anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-calibrate">
+        <source>Calibrate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-restore">
+        <source>Take back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-reset">
+        <source>Factory values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-type">
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sensor-representation">
+        <source>Values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-instructions">
+        <source>What the system is busy with. The list of processes appears after five seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-start">
+        <source>Running since</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-load-1">
+        <source>Load, 1 minute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-load-5">
+        <source>Load, 5 minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-load-15">
+        <source>Load, 15 minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-process">
+        <source>%1 (%2)</source>
+        <extracomment>A process: its name and its number</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-self-instructions">
+        <source>The touch controller tests itself. Keep fingers off the panel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-self-hint">
+        <source>Pass unlocks when the controller has answered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-self-missing">
+        <source>The touch controller of this phone has no self-test.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-self-good">
+        <source>The controller reports that it is in order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-self-bad">
+        <source>The controller reports a fault or gives no report.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-self-outcome">
+        <source>Self-test in order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-missing">
+        <source>This phone shows no battery to the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-ecompass-good">
+        <source>The compass followed a whole turn.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-ecompass-instructions">
+        <source>Keep the phone level and turn around once. If it sticks, draw a large eight in the air with the phone first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-ecompass-hint">
+        <source>Pass unlocks when the compass followed a whole turn.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-ecompass-missing">
+        <source>This phone shows no compass to the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-ecompass-heading">
+        <source>Heading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-ecompass-directions">
+        <source>Directions seen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-ecompass-level">
+        <source>Calibration level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-good">
+        <source>Averages of 32 samples are within their limits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-instructions">
+        <source>Lay the phone flat on a table, the display up, and do not touch the table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-hint">
+        <source>Pass unlocks when the sensors have been measured.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-missing">
+        <source>This phone has neither an accelerometer nor a gyroscope.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-measure">
+        <source>It lies flat: measure now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-progress">
+        <source>Measuring: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-acceleration-x">
+        <source>Acceleration X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-acceleration-y">
+        <source>Acceleration Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-acceleration-z">
+        <source>Acceleration Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-rotation-x">
+        <source>Rotation X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-rotation-y">
+        <source>Rotation Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-rotation-z">
+        <source>Rotation Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gyro-rotation">
+        <source>Gyroscope in order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-hall-good">
+        <source>The switch saw the magnet come and go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-hall-hint">
+        <source>Pass unlocks when the magnet was seen to come and go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-hall-missing">
+        <source>This phone has no magnet switch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-hall-step-close">
+        <source>Hold a magnet or a closed cover to the phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-hall-step-open">
+        <source>Take it away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-hall-magnet">
+        <source>Magnet at the switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-headset">
+        <source>Headset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-headphones">
+        <source>Headphones without microphone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-microphone">
+        <source>Microphone only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-empty">
+        <source>Empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-good">
+        <source>The socket was seen empty and with a headset.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-hint">
+        <source>Pass unlocks when the socket was seen empty and with a headset.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-missing">
+        <source>This phone shows no headset socket to the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-step-empty">
+        <source>Take everything out of the headset socket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-step-plug">
+        <source>Plug a headset with a microphone in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-socket">
+        <source>Headset socket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-buttons-media">
+        <source>Media</source>
+        <extracomment>A key of a headset</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-buttons-play">
+        <source>Play/Pause</source>
+        <extracomment>A key of a headset</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-buttons-good">
+        <source>Every button that the phone knows was pressed and let go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-buttons-instructions">
+        <source>Plug the headset in and press each of its buttons once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-buttons-hint">
+        <source>Pass unlocks when a button was pressed and let go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-buttons-missing">
+        <source>This phone shows no headset buttons to the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-buttons-pressed">
+        <source>Buttons pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-buttons-known">
+        <source>the phone knows %1</source>
+        <extracomment>How many buttons the phone can tell apart</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-good">
+        <source>Every key was pressed and let go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-instructions">
+        <source>Press each key once and let it go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-hint">
+        <source>Pass unlocks when every key was pressed and let go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-missing">
+        <source>No key of this phone is configured for the test.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-held">
+        <source>held</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-waiting">
+        <source>not yet pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-light-good">
+        <source>The sensor told dark from bright.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-light-instructions">
+        <source>Cover the sensor above the display with a finger, then hold it to the light.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-light-hint">
+        <source>Pass unlocks when the sensor told dark from bright.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-light-missing">
+        <source>This phone shows no light sensor to the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-light-now">
+        <source>Brightness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-light-darkest">
+        <source>Darkest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-light-brightest">
+        <source>Brightest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-multi-touch-good">
+        <source>The panel told %1 fingers apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-multi-touch-bad">
+        <source>The panel did not tell two fingers apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-multi-touch-instructions">
+        <source>Put five fingers on the panel at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-multi-touch-hint">
+        <source>Pass unlocks when two fingers have been told apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-multi-touch-count">
+        <source>%1 of %2</source>
+        <extracomment>How many fingers were seen, and how many are wanted</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-multi-touch-patience">
+        <source>Ends %1 s after the last touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-multi-touch-seen">
+        <source>Fingers at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-prox-good">
+        <source>The sensor saw the hand come and go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-prox-hint">
+        <source>Pass unlocks when the hand was seen to come and go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-prox-missing">
+        <source>This phone shows no proximity sensor to the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-prox-step-near">
+        <source>Hold a hand over the top of the display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-prox-step-far">
+        <source>Take the hand away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-prox-near">
+        <source>Something near</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-none">
+        <source>No card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-unmounted">
+        <source>Not mounted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-mounting">
+        <source>Being mounted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-mounted">
+        <source>Mounted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-unmounting">
+        <source>Being unmounted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-not-created">
+        <source>No file could be created on the card.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-differs">
+        <source>What was read is not what was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-good">
+        <source>A file was written, read back and removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-working">
+        <source>Writing and reading the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-instructions-insert">
+        <source>Put a memory card into the slot.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-instructions">
+        <source>The card is tested as soon as it is mounted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-hint">
+        <source>Pass unlocks when the card has been written and read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-missing">
+        <source>There is no card in the slot.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-mount-failed">
+        <source>A card could not be mounted: it may be damaged or have no file system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-state">
+        <source>Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-outcome">
+        <source>Write and read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-good">
+        <source>Every part of the panel has reacted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-bad">
+        <source>Parts of the panel did not react: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-instructions">
+        <source>Wipe over the whole panel until no cell is left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-hint">
+        <source>Pass unlocks when every cell has been wiped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-patience">
+        <source>Ends %1 s after the last new cell</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-touch-reacted">
+        <source>Cells that reacted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-missing">
+        <source>This phone shows no battery to the system, so charging cannot be seen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-switching-off">
+        <source>Switching the charger off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-switching-on">
+        <source>Switching the charger on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-good">
+        <source>Charging stopped and resumed as it was switched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-hint">
+        <source>Pass unlocks when the charger has been switched off and on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-step-plug">
+        <source>Plug a charger into the USB socket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-step-on">
+        <source>The phone charges: wait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-step-off">
+        <source>Charger switched off: charging stops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-step-again">
+        <source>Charger switched on: charging resumes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-current-on">
+        <source>Current, charger on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-current-off">
+        <source>Current, charger off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-stops">
+        <source>Charging stops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-resumes">
+        <source>Charging resumes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-vibrator-good">
+        <source>The operator felt the pulses that were given: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-vibrator-bad">
+        <source>Pulses given: %1, felt: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-vibrator-instructions">
+        <source>Hold the phone in the hand and count the pulses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-vibrator-hint">
+        <source>Pass unlocks when you have said how many pulses you felt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-vibrator-missing">
+        <source>This phone offers no vibrator to the system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-vibrator-question">
+        <source>How many pulses did you feel?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-vibrator-again">
+        <source>Give the pulses again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-limits-accepted">
+        <source>must be %1</source>
+        <extracomment>The value that a reading must have</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sd-card-failed">
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

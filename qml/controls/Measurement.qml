@@ -16,14 +16,24 @@ QtObject {
     property real maximum: NaN
     /*! Texts or yes/no that are good; undefined where any is. */
     property var accepted
+    /*! The judgement of a back end that judges by itself, and the words for what it asks; undefined where there is none. */
+    property var meets
+    property string criteria
+    /*! False while the value is still on its way: it is not out of limits before it has arrived. */
+    property bool settled: true
     /*! Whether the verdict rests on it. */
     property bool decisive: limited
+    /*! Missing where it should be there, to be drawn as such. */
+    readonly property bool wanting: missing && decisive && settled
 
-    readonly property bool limited: !isNaN(minimum) || !isNaN(maximum) || accepted !== undefined
+    readonly property bool limited: !isNaN(minimum) || !isNaN(maximum) || accepted !== undefined || meets !== undefined
     readonly property bool missing: value === undefined || value === null || value === ""
                                     || (typeof value === "number" && !isFinite(value))
     /*! "missing", "none" (nothing to meet), "fail", "near" (a pass close to a limit) or "pass". */
-    readonly property string result: judge()
+    readonly property string result: {
+        var judged = judge();
+        return settled || (judged !== "fail" && judged !== "missing") ? judged : missing ? "missing" : "none";
+    }
     readonly property bool good: result === "pass" || result === "near"
 
     readonly property string valueText: {
@@ -35,8 +45,12 @@ QtObject {
         return word(value);
     }
     readonly property string limitsText: {
+        if (criteria !== "")
+            return criteria;
         if (accepted !== undefined)
-            return accepted.map(word).join(", ");
+            //: The value that a reading must have
+            //% "must be %1"
+            return qsTrId("kiv-limits-accepted").arg(accepted.map(word).join(", "));
         if (!isNaN(minimum) && !isNaN(maximum))
             //: Limits of a reading: the lowest, the highest, the unit
             //% "%1 to %2 %3"
@@ -87,6 +101,8 @@ QtObject {
             return "missing";
         if (!limited)
             return "none";
+        if (meets !== undefined)
+            return meets ? "pass" : "fail";
         if (accepted !== undefined)
             return accepted.indexOf(value) >= 0 ? "pass" : "fail";
         if (typeof value !== "number" || value < minimum || value > maximum)

@@ -15,20 +15,30 @@ Column {
             readonly property var reading: modelData
             readonly property string result: reading.result
             readonly property color ink: result === "fail" ? Theme.fail
-                                         : result === "near" || (result === "missing" && reading.decisive) ? Theme.warn
+                                         : result === "near" || (reading.wanting) ? Theme.warn
                                          : result === "pass" ? Theme.pass : Theme.text
 
+            // What is too long to stand beside its name stands below it.
+            readonly property real room: width - mark.width - Theme.gap
+            readonly property bool stacked: metrics.advanceWidth > 0.5 * room
+
             width: table.width
-            height: Math.max(names.height, value.height) + 1.5 * Theme.unit
+            height: (stacked ? names.height + value.height : Math.max(names.height, value.height)) + 1.5 * Theme.unit
             Accessible.role: Accessible.StaticText
             Accessible.name: [reading.name, reading.valueText, reading.limitsText, reading.resultText]
                              .filter(function(part) { return part !== ""; }).join(", ")
 
+            // A text whose own width followed its contents would lay itself out for the width before.
+            TextMetrics {
+                id: metrics
+                font: value.font
+                text: value.text
+            }
             Column {
                 id: names
                 anchors.left: parent.left
-                anchors.verticalCenter: parent.verticalCenter
-                width: (parent.width - mark.width) * 0.54
+                y: line.stacked ? 0.75 * Theme.unit : (parent.height - height) / 2
+                width: line.stacked ? line.room : line.room - Theme.gap - value.width
 
                 Words {
                     width: parent.width
@@ -46,17 +56,16 @@ Column {
             }
             Words {
                 id: value
-                anchors.left: names.right
-                anchors.leftMargin: Theme.gap
                 anchors.right: mark.left
                 anchors.rightMargin: Theme.gap
-                anchors.verticalCenter: parent.verticalCenter
-                horizontalAlignment: Text.AlignRight
+                width: line.stacked ? line.room : Math.ceil(metrics.advanceWidth) + 1
+                y: line.stacked ? names.y + names.height : (parent.height - height) / 2
+                horizontalAlignment: line.stacked ? Text.AlignLeft : Text.AlignRight
                 text: line.reading.valueText
                 font.pixelSize: line.result === "missing" ? Theme.body : Theme.lead
                 font.weight: line.result === "missing" ? Font.Normal : Font.DemiBold
                 font.italic: line.result === "missing"
-                color: line.result === "missing" && !line.reading.decisive ? Theme.muted : line.ink
+                color: line.result === "missing" && !line.reading.wanting ? Theme.muted : line.ink
                 Accessible.ignored: true
             }
             Icon {
@@ -64,7 +73,7 @@ Column {
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 size: 2.75 * Theme.unit
-                name: line.result === "none" ? "" : line.result === "missing" ? (line.reading.decisive ? "untested" : "")
+                name: line.result === "none" ? "" : line.result === "missing" ? (line.reading.wanting ? "untested" : "")
                                                                               : line.result
                 color: line.ink
             }

@@ -9,13 +9,13 @@
 //   runIn:   place in the run-in sequence where that differs from this order
 var rows = [
     //% "Touch panel self-test"
-    { name: "TouchSelfTest", title: QT_TRID_NOOP("kiv-test-touch-self"), needs: ["TouchAuto"], page: "",
+    { name: "TouchSelfTest", title: QT_TRID_NOOP("kiv-test-touch-self"), needs: ["TouchAuto"], page: "TouchSelfTest.qml",
       glyph: "touch", kind: "measured", seconds: 10 },
     //% "Touch panel"
-    { name: "VerificationTouch", title: QT_TRID_NOOP("kiv-test-touch"), needs: ["Touch"], page: "",
+    { name: "VerificationTouch", title: QT_TRID_NOOP("kiv-test-touch"), needs: ["Touch"], page: "VerificationTouch.qml",
       glyph: "touch", kind: "measured", seconds: 30 },
     //% "Several fingers"
-    { name: "VerificationMultiTouch", title: QT_TRID_NOOP("kiv-test-multi-touch"), needs: ["Touch"], page: "",
+    { name: "VerificationMultiTouch", title: QT_TRID_NOOP("kiv-test-multi-touch"), needs: ["Touch"], page: "VerificationMultiTouch.qml",
       glyph: "multitouch", kind: "measured", seconds: 15 },
     //% "Display"
     { name: "VerificationLcd", title: QT_TRID_NOOP("kiv-test-lcd"), needs: ["LCD"], page: "",
@@ -24,19 +24,19 @@ var rows = [
     { name: "VerificationLcdBacklight", title: QT_TRID_NOOP("kiv-test-lcd-backlight"), needs: ["Backlight"], page: "",
       glyph: "light", kind: "guided", seconds: 15, runIn: 1 },
     //% "Light sensor"
-    { name: "VerificationLightSensor", title: QT_TRID_NOOP("kiv-test-light"), needs: ["LightSensor"], page: "",
+    { name: "VerificationLightSensor", title: QT_TRID_NOOP("kiv-test-light"), needs: ["LightSensor"], page: "VerificationLightSensor.qml",
       glyph: "light", kind: "measured", seconds: 15 },
     //% "Proximity sensor"
-    { name: "VerificationProxSensor", title: QT_TRID_NOOP("kiv-test-prox"), needs: ["ProxSensor"], page: "",
+    { name: "VerificationProxSensor", title: QT_TRID_NOOP("kiv-test-prox"), needs: ["ProxSensor"], page: "VerificationProxSensor.qml",
       glyph: "proximity", kind: "measured", seconds: 15 },
     //% "Gyroscope and accelerometer"
-    { name: "VerificationGyroAndGSensor", title: QT_TRID_NOOP("kiv-test-gyro"), needs: ["GSensor", "Gyro"], page: "",
+    { name: "VerificationGyroAndGSensor", title: QT_TRID_NOOP("kiv-test-gyro"), needs: ["GSensor", "Gyro"], page: "VerificationGyroAndGSensor.qml",
       glyph: "motion", kind: "measured", seconds: 20 },
     //% "Compass"
-    { name: "VerificationEcompass", title: QT_TRID_NOOP("kiv-test-ecompass"), needs: ["ECompass"], page: "",
+    { name: "VerificationEcompass", title: QT_TRID_NOOP("kiv-test-ecompass"), needs: ["ECompass"], page: "VerificationEcompass.qml",
       glyph: "compass", kind: "measured", seconds: 25 },
     //% "Cover magnet switch"
-    { name: "VerificationHallDetect", title: QT_TRID_NOOP("kiv-test-hall"), needs: ["Hall"], page: "",
+    { name: "VerificationHallDetect", title: QT_TRID_NOOP("kiv-test-hall"), needs: ["Hall"], page: "VerificationHallDetect.qml",
       glyph: "hall", kind: "measured", seconds: 15 },
     //% "Fingerprint reader"
     { name: "VerificationFingerprint", title: QT_TRID_NOOP("kiv-test-fingerprint"), needs: ["Fingerprint"], page: "",
@@ -57,10 +57,10 @@ var rows = [
     { name: "AudioPlayMusicReceiver", title: QT_TRID_NOOP("kiv-test-receiver"), needs: ["Receiver"], page: "",
       glyph: "receiver", kind: "guided", seconds: 15 },
     //% "Headset buttons"
-    { name: "VerificationHeadsetButtons", title: QT_TRID_NOOP("kiv-test-headset-buttons"), needs: ["Headset"], page: "",
+    { name: "VerificationHeadsetButtons", title: QT_TRID_NOOP("kiv-test-headset-buttons"), needs: ["Headset"], page: "VerificationHeadsetButtons.qml",
       glyph: "headset", kind: "measured", seconds: 20 },
     //% "Headset socket"
-    { name: "VerificationHeadset", title: QT_TRID_NOOP("kiv-test-headset"), needs: ["Headset"], page: "",
+    { name: "VerificationHeadset", title: QT_TRID_NOOP("kiv-test-headset"), needs: ["Headset"], page: "VerificationHeadset.qml",
       glyph: "headset", kind: "measured", seconds: 20 },
     //% "Headset music"
     { name: "AudioPlayMusicHeadset", title: QT_TRID_NOOP("kiv-test-headset-music"), needs: ["Headset"], page: "",
@@ -99,16 +99,16 @@ var rows = [
     { name: "VerificationButtonBacklight", title: QT_TRID_NOOP("kiv-test-button-backlight"), needs: ["Backlight"], page: "",
       glyph: "light", kind: "guided", seconds: 15 },
     //% "Vibrator"
-    { name: "VerificationVibrator", title: QT_TRID_NOOP("kiv-test-vibrator"), needs: ["Vibrator"], page: "",
+    { name: "VerificationVibrator", title: QT_TRID_NOOP("kiv-test-vibrator"), needs: ["Vibrator"], page: "VerificationVibrator.qml",
       glyph: "vibrator", kind: "guided", seconds: 15 },
     //% "SIM card"
     { name: "VerificationSim", title: QT_TRID_NOOP("kiv-test-sim"), needs: ["SIM"], page: "",
       glyph: "sim", kind: "measured", seconds: 20 },
     //% "Memory card"
-    { name: "VerificationSdCard", title: QT_TRID_NOOP("kiv-test-sd-card"), needs: ["SDCard"], page: "",
+    { name: "VerificationSdCard", title: QT_TRID_NOOP("kiv-test-sd-card"), needs: ["SDCard"], page: "VerificationSdCard.qml",
       glyph: "sdcard", kind: "measured", seconds: 20 },
     //% "Keys"
-    { name: "VerificationKey", title: QT_TRID_NOOP("kiv-test-key"), needs: ["Key"], page: "",
+    { name: "VerificationKey", title: QT_TRID_NOOP("kiv-test-key"), needs: ["Key"], page: "VerificationKey.qml",
       glyph: "key", kind: "measured", seconds: 15 },
     //% "USB host"
     { name: "VerificationUsbOtg", title: QT_TRID_NOOP("kiv-test-usb-otg"), needs: ["UsbOtg"], page: "",
@@ -138,10 +138,10 @@ var rows = [
     { name: "Calibration", title: QT_TRID_NOOP("kiv-test-calibration"), needs: [], page: "Calibration.qml",
       glyph: "calibration", kind: "measured", seconds: 5 },
     //% "Sensor calibration"
-    { name: "SensorCalibration", title: QT_TRID_NOOP("kiv-test-sensor-calibration"), needs: [], page: "",
+    { name: "SensorCalibration", title: QT_TRID_NOOP("kiv-test-sensor-calibration"), needs: [], page: "SensorCalibration.qml",
       glyph: "calibration", kind: "guided", seconds: 60 },
     //% "System state"
-    { name: "SystemState", title: QT_TRID_NOOP("kiv-test-system"), needs: [], page: "",
+    { name: "SystemState", title: QT_TRID_NOOP("kiv-test-system"), needs: [], page: "SystemState.qml",
       glyph: "system", kind: "guided", seconds: 20 }
 ];
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
+import QtQuick.Layouts 1.15
 import Kiv 1.0
 import "../controls"
 import "../controls/VerdictStyle.js" as Style
@@ -75,18 +76,21 @@ Item {
             }
         }
     }
-    Row {
+    RowLayout {
         id: counts
         anchors.top: banner.bottom
         width: parent.width
+        spacing: 0
 
         Repeater {
             model: screen.order
 
             Rectangle {
                 readonly property var look: Style.looks[modelData]
-                width: counts.width / 4
-                height: tally.height + Theme.margin
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.preferredWidth: counts.width / 4
+                implicitHeight: tally.height + Theme.margin
                 color: Theme[look.tint]
 
                 Column {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 //
-// Draws one screen of the installed pages with the real types and writes it to an image.
+// Draws one screen of the installed pages, with the real types or pretended ones, and writes it to an image.
+#include "fakes.h"
 #include "registration.h"
 
 #include <QCommandLineParser>
@@ -9,6 +10,7 @@
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlExpression>
 #include <QQuickItem>
 #include <QQuickItemGrabResult>
 #include <QQuickView>
@@ -27,12 +29,15 @@ QString textOf(const QString &path)
 
 int main(int argc, char **argv)
 {
-    registerKivTypes();
     QGuiApplication application(argc, argv);
 
     QCommandLineParser parser;
     parser.addHelpOption();
     parser.addOptions({
+        {QStringLiteral("fake"), QStringLiteral("Use the pretended types.")},
+        {QStringLiteral("run"), QStringLiteral("Script to run when the page is there; \"phone\" is what the "
+                                               "pretended types report, \"shell\" the root item."),
+         QStringLiteral("script")},
         {QStringLiteral("page"), QStringLiteral("Screen or test to show."), QStringLiteral("name")},
         {QStringLiteral("size"), QStringLiteral("Size of the window."), QStringLiteral("WxH"),
          QStringLiteral("360x640")},
@@ -64,6 +69,10 @@ int main(int argc, char **argv)
         QCoreApplication::installTranslator(&engineering);
     }
 
+    const int phone = parser.isSet(QStringLiteral("fake")) ? registerFakeTypes() : -1;
+    if (phone < 0)
+        registerKivTypes();
+
     QQuickView view;
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(size.value(0).toInt(), size.value(1).toInt());
@@ -75,8 +84,20 @@ int main(int argc, char **argv)
     QObject::connect(view.engine(), &QQmlEngine::quit, &application, &QCoreApplication::quit);
     view.setInitialProperties({{QStringLiteral("startPage"), parser.value(QStringLiteral("page"))},
                                {QStringLiteral("dark"), parser.isSet(QStringLiteral("dark"))}});
+    if (phone >= 0)
+        view.rootContext()->setContextProperty(QStringLiteral("phone"),
+                                               view.engine()->singletonInstance<QObject *>(phone));
     view.setSource(QUrl::fromLocalFile(share + QStringLiteral("/kiv/main.qml")));
     view.show();
+    if (parser.isSet(QStringLiteral("run"))) {
+        view.rootContext()->setContextProperty(QStringLiteral("shell"), view.rootObject());
+        QTimer::singleShot(300, &view, [&] {
+            QQmlExpression script(view.rootContext(), view.rootObject(), parser.value(QStringLiteral("run")));
+            script.evaluate();
+            if (script.hasError())
+                qWarning() << script.error();
+        });
+    }
 
     // The offscreen platform cannot give its window's content away, the scene graph can.
     QSharedPointer<QQuickItemGrabResult> result;
@@ -87,7 +108,7 @@ int main(int argc, char **argv)
             QCoreApplication::exit(1);
         else
             QObject::connect(result.data(), &QQuickItemGrabResult::ready, &application, [&] {
-                status = result->saveToFile(image) ? 0 : 1;
+                status = result->image().save(image) ? 0 : 1;
                 QCoreApplication::quit();
             });
     });

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import Kiv 1.0
+import "../controls"
+
+TestPage {
+    id: page
+
+    readonly property var codes: KivHwSettings.keys
+    property var held: []
+    property var seen: []
+
+    function press(code) {
+        if (held.indexOf(code) < 0)
+            held = held.concat([code]);
+    }
+
+    function release(code) {
+        if (held.indexOf(code) < 0)
+            return;
+        held = held.filter(function(other) { return other !== code; });
+        if (seen.indexOf(code) < 0)
+            seen = seen.concat([code]);
+        if (codes.every(function(wanted) { return page.seen.indexOf(wanted) >= 0; }))
+            //% "Every key was pressed and let go."
+            judge(FactoryUtils.Pass, qsTrId("kiv-key-good"));
+    }
+
+    //% "Press each key once and let it go."
+    instructions: qsTrId("kiv-key-instructions")
+    evidence: false
+    //% "Pass unlocks when every key was pressed and let go."
+    evidenceHint: qsTrId("kiv-key-hint")
+
+    onOpened: {
+        //% "No key of this phone is configured for the test."
+        missing = codes.length > 0 ? "" : qsTrId("kiv-key-missing");
+        forceActiveFocus();
+    }
+
+    Keys.onPressed: {
+        if (codes.indexOf(event.key) < 0)
+            return;
+        event.accepted = true;
+        if (!event.isAutoRepeat)
+            press(event.key);
+    }
+    Keys.onReleased: {
+        if (codes.indexOf(event.key) < 0)
+            return;
+        event.accepted = true;
+        if (!event.isAutoRepeat)
+            release(event.key);
+    }
+
+    Repeater {
+        model: page.codes
+
+        Rectangle {
+            id: line
+            readonly property bool isHeld: page.held.indexOf(modelData) >= 0
+            readonly property bool isSeen: page.seen.indexOf(modelData) >= 0
+            readonly property color ink: isHeld ? Theme.accentInk : isSeen ? Theme.pass : Theme.text
+            width: parent.width
+            height: Math.max(7 * Theme.unit, words.height + Theme.margin)
+            radius: Theme.radius
+            color: isHeld ? Theme.accent : isSeen ? Theme.passTint : Theme.surface
+            border.width: Theme.hairline
+            border.color: Theme.line
+            Accessible.role: Accessible.StaticText
+            Accessible.name: words.text + ", " + stateWords.text
+
+            Icon {
+                id: mark
+                x: Theme.margin
+                anchors.verticalCenter: parent.verticalCenter
+                name: line.isSeen && !line.isHeld ? "pass" : "key"
+                color: line.ink
+            }
+            Words {
+                id: words
+                anchors.left: mark.right
+                anchors.leftMargin: Theme.margin
+                anchors.right: stateWords.left
+                anchors.rightMargin: Theme.gap
+                anchors.verticalCenter: parent.verticalCenter
+                text: KivHwSettings.keyName(modelData)
+                color: line.ink
+                font.pixelSize: Theme.lead
+                font.weight: Font.DemiBold
+                Accessible.ignored: true
+            }
+            Words {
+                id: stateWords
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.margin
+                anchors.verticalCenter: parent.verticalCenter
+                color: line.ink
+                font.pixelSize: Theme.small
+                text: line.isHeld ? //% "held"
+                                    qsTrId("kiv-key-held")
+                      : line.isSeen ? //% "in order"
+                                      qsTrId("kiv-reading-pass")
+                      : //% "not yet pressed"
+                        qsTrId("kiv-key-waiting")
+                Accessible.ignored: true
+            }
+        }
+    }
+}

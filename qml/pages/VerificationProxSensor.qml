@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import QtSensors 5.15
+import Kiv 1.0
+import "../controls"
+
+TestPage {
+    id: page
+
+    property bool seenNear: false
+    property bool seenFar: false
+
+    function follow() {
+        if (!isOpen || !sensor.reading)
+            return;
+        near.value = sensor.reading.near;
+        if (sensor.reading.near)
+            seenNear = true;
+        else if (seenNear)
+            seenFar = true;
+        if (seenNear && seenFar)
+            //% "The sensor saw the hand come and go."
+            judge(FactoryUtils.Pass, qsTrId("kiv-prox-good"));
+    }
+
+    measurements: [near]
+    evidence: false
+    //% "Pass unlocks when the hand was seen to come and go."
+    evidenceHint: qsTrId("kiv-prox-hint")
+
+    onOpened: {
+        //% "This phone shows no proximity sensor to the system."
+        missing = sensor.connectedToBackend ? "" : qsTrId("kiv-prox-missing");
+        follow();
+    }
+
+    ProximitySensor {
+        id: sensor
+        active: page.isOpen
+        alwaysOn: true
+        onReadingChanged: page.follow()
+    }
+    StepList {
+        width: parent.width
+        visible: page.missing === ""
+        steps: [
+            //% "Hold a hand over the top of the display"
+            { text: qsTrId("kiv-prox-step-near"), done: page.seenNear },
+            //% "Take the hand away"
+            { text: qsTrId("kiv-prox-step-far"), done: page.seenFar }
+        ]
+    }
+    Measurement {
+        id: near
+        //% "Something near"
+        name: qsTrId("kiv-prox-near")
+    }
+}

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: BSD-3-Clause
+pragma Singleton
+import QtQuick 2.15
+
+/*! The phone behind the pretended types: what a test sets here, they report. */
+QtObject {
+    id: phone
+
+    property var battery: ({})
+    property var unsupported: []
+    property var factoryTests: null
+    property var runInTests: ["VerificationLcdBacklight", "VerificationBackCamera", "VerificationLcd",
+                              "AudioPlayMusicLoudspeaker", "VerificationVideoPlayback"]
+    property var settings: ({})
+    property var keys: [0x01000072, 0x01000070]
+    property bool batteryVoltageTest: true
+    property var addresses: ({})
+    property var validAddresses: []
+    property var calibrationFlagOk: false
+    property var calibrationTextOk: false
+    property bool jackFound: true
+    property bool headphones: false
+    property bool microphone: false
+    property bool buttonsFound: true
+    property int buttonCount: 3
+    property int buttonsPressed: 0
+    property bool hall: false
+    property bool touchSelfTest: true
+    property int cardStatus: 0
+    property bool cardMountFailed: false
+    property int cardOutcome: 3
+    property var rotation: [0.1, -0.2, 0.05]
+    property bool rotationGood: true
+    property bool prefers4G: false
+    property var calibrated: ["gyroscope", "compass"]
+    property bool calibrationWorks: true
+
+    /*! What the pages did to the phone, in order. */
+    property var log: []
+
+    function note(what) {
+        log = log.concat([what]);
+    }
+
+    function reset() {
+        battery = goodBattery();
+        unsupported = [];
+        factoryTests = null;
+        settings = { "CalibrationInfo/Flag": "1", "CalibrationInfo/String": "K-2207" };
+        keys = [0x01000072, 0x01000070];
+        batteryVoltageTest = true;
+        addresses = { "bluetooth": "00:11:22:aa:bb:cc", "wireless": "00:11:22:aa:bb:cd" };
+        validAddresses = ["bluetooth", "wireless"];
+        calibrationFlagOk = true;
+        calibrationTextOk = true;
+        jackFound = true;
+        headphones = false;
+        microphone = false;
+        buttonsFound = true;
+        buttonCount = 3;
+        buttonsPressed = 0;
+        hall = false;
+        touchSelfTest = true;
+        cardStatus = 0;
+        cardMountFailed = false;
+        cardOutcome = 3;
+        rotation = [0.1, -0.2, 0.05];
+        rotationGood = true;
+        prefers4G = false;
+        calibrated = ["gyroscope", "compass"];
+        calibrationWorks = true;
+        log = [];
+    }
+
+    function goodBattery() {
+        return { currentNow: 412000, minimumVoltage: 3400000, maximumVoltage: 4350000, voltageNow: 3921000,
+                 minimumEnergy: 0, maximumEnergy: 9300000, energyNow: 6120000, minimumDesignEnergy: 0,
+                 maximumDesignEnergy: 9700000, health: "Good", status: "Charging", temperature: 28.4, present: true };
+    }
+
+    function setBattery(changes) {
+        var all = {};
+        for (var key in battery)
+            all[key] = battery[key];
+        for (var change in changes)
+            all[change] = changes[change];
+        battery = all;
+    }
+
+    Component.onCompleted: reset()
+}

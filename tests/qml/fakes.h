@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#ifndef FAKES_H
+#define FAKES_H
+
+/*!
+ * Registers the Kiv module with pretended types of the same names, written in QML, in place of the real ones. What they
+ * report is set on the singleton Phone of the module KivFake, whose type id this returns.
+ */
+int registerFakeTypes();
+
+#endif
