@@ -10,6 +10,7 @@
 #include "radiopreference.h"
 #include "usbotg.h"
 #include "zel.h"
+#include "sdcardtest.h"
 
 #include <QtQml>
 
@@ -41,6 +42,7 @@ QObject *factoryUtilsProvider(QQmlEngine *, QJSEngine *)
 void registerKivTypes()
 {
     registerType<Battery>("Battery");
+    registerType<SdCardTest>("SdCardTest");
     registerType<RadioPreference>("RadioPreference");
     registerType<Zel>("Zel");
     registerType<UsbOtg>("UsbOtg");
