@@ -3,12 +3,31 @@
 
 #include <QProcess>
 
+#include <signal.h>
+#include <unistd.h>
+
+namespace
+{
+/*! A child that leads a process group of its own, so that a shell goes together with the tools it has started. */
+class GroupLeader : public QProcess
+{
+public:
+    void killGroup()
+    {
+        ::kill(-static_cast<pid_t>(processId()), SIGKILL);
+        kill();
+    }
+
+protected:
+    void setupChildProcess() override { ::setpgid(0, 0); }
+};
+}
+
 ChildResult runChild(const QString &program, const QStringList &arguments, std::chrono::milliseconds timeout)
 {
-    QProcess process;
-    process.setStandardInputFile(QProcess::nullDevice());
+    GroupLeader process;
     process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(program, arguments, QIODevice::ReadOnly);
+    process.start(program, arguments, QIODevice::ReadWrite);
 
     ChildResult result;
     result.finished = process.waitForFinished(int(timeout.count()));
@@ -19,7 +38,7 @@ ChildResult runChild(const QString &program, const QStringList &arguments, std::
         return result;
     }
     if (process.state() != QProcess::NotRunning) {
-        process.kill();
+        process.killGroup();
         process.waitForFinished(-1);
     }
     return result;

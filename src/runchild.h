@@ -22,8 +22,8 @@ struct ChildResult
 constexpr std::chrono::milliseconds ChildTimeout{30000};
 
 /*!
- * Runs the program with the arguments and blocks until it ends, at most for the time given; one that still runs then
- * is killed. Its standard error is discarded, its standard input empty.
+ * Runs the program with the arguments and blocks until it ends, at most for the time given; if it still runs then it is
+ * killed with all the processes of its pipeline. Its standard error is discarded.
  */
 ChildResult runChild(const QString &program, const QStringList &arguments,
                      std::chrono::milliseconds timeout = ChildTimeout);

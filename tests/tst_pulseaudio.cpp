@@ -1,0 +1,434 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "messagelog.h"
+#include "pulseaudio.h"
+
+#include <QtTest>
+
+#include <signal.h>
+
+namespace
+{
+const QString Tool = QStringLiteral("/usr/bin/pactl");
+const QString CallLog = QStringLiteral("/run/kiv-test/pactl.log");
+const QString Listing = QStringLiteral("/run/kiv-test/listing");
+
+enum Role
+{
+    MediaName = Qt::UserRole + 1,
+    ApplicationName,
+    VolumeInfo,
+    Corked,
+    Muted
+};
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY2(file.open(QIODevice::WriteOnly | QIODevice::Truncate), qPrintable(file.errorString()));
+    file.write(content);
+}
+
+/*! Puts a shell script in the tool's place. It has logged its arguments when it comes to the given lines. */
+void installTool(const QByteArray &lines)
+{
+    QFile::remove(Tool);
+    writeFile(Tool, "#!/bin/sh\necho \"$@\" >>" + CallLog.toUtf8() + "\n" + lines + "\n");
+    QVERIFY(QFile::setPermissions(Tool, QFile::Permissions(0x7755)));
+}
+
+void installListing(const QByteArray &text)
+{
+    writeFile(Listing, text);
+    installTool("cat " + Listing.toUtf8());
+}
+
+QByteArray stream(int number, const QByteArray &lines)
+{
+    return "Sink Input #" + QByteArray::number(number) + "\n" + lines;
+}
+
+const QByteArray Playing =
+    stream(7,
+           "\tDriver: protocol-native.c\n"
+           "\tSink: 0\n"
+           "\tCorked: no\n"
+           "\tMute: yes\n"
+           "\tVolume: front-left: 65536 / 100% / 0.00 dB,   front-right: 52428 /  80% / -5.81 dB\n"
+           "\t        balance -0.20\n"
+           "\tProperties:\n"
+           "\t\tmedia.name = \"Playback\"\n"
+           "\t\tapplication.name = \"paplay\"\n");
+
+struct Row
+{
+    QString mediaName;
+    QVariant applicationName;
+    QString volumeInfo;
+    bool corked = false;
+    bool muted = false;
+};
+
+Row rowOf(const PulseAudio &model, int row)
+{
+    const QModelIndex index = model.index(row);
+    return {model.data(index, MediaName).toString(), model.data(index, ApplicationName),
+            model.data(index, VolumeInfo).toString(), model.data(index, Corked).toBool(),
+            model.data(index, Muted).toBool()};
+}
+}
+
+class tst_PulseAudio : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void metaObject();
+    void readsAListing();
+    void keysAndPlaces_data();
+    void keysAndPlaces();
+    void cutsBlocks_data();
+    void cutsBlocks();
+    void roles();
+    void indexes();
+    void signalsOnlyAChangedCount();
+    void resetsOnEveryPoll();
+    void failingToolEmptiesTheListSilently_data();
+    void failingToolEmptiesTheListSilently();
+    void callsTheToolWithItsArguments();
+    void pollsAgain();
+    void dropsAPollThatStillRuns();
+    void isDestroyedDuringAPoll();
+    void largeAndOddOutput();
+};
+
+void tst_PulseAudio::init()
+{
+    QFile::remove(CallLog);
+    QFile::remove(Tool);
+}
+
+void tst_PulseAudio::metaObject()
+{
+    const QMetaObject &meta = PulseAudio::staticMetaObject;
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        methods << QString::fromLatin1(meta.method(i).methodSignature());
+    QCOMPARE(methods, QStringList({QStringLiteral("countChanged()"), QStringLiteral("refresh()")}));
+    QCOMPARE(meta.method(meta.indexOfSlot("refresh()")).access(), QMetaMethod::Private);
+    QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 1);
+    const QMetaProperty count = meta.property(meta.propertyOffset());
+    QCOMPARE(count.name(), "count");
+    QCOMPARE(count.userType(), int(QMetaType::Int));
+    QVERIFY(!count.isWritable());
+    QCOMPARE(count.notifySignal().methodSignature(), QByteArray("countChanged()"));
+}
+
+void tst_PulseAudio::readsAListing()
+{
+    installListing(Playing + "\n");
+    PulseAudio model;
+    QCOMPARE(model.count(), 0);
+    QTRY_COMPARE(model.count(), 1);
+    QCOMPARE(model.rowCount(), 1);
+    const Row row = rowOf(model, 0);
+    QCOMPARE(row.mediaName, QStringLiteral("\"Playback\""));
+    QCOMPARE(row.applicationName, QVariant(QStringLiteral("\"paplay\"")));
+    QCOMPARE(row.volumeInfo, QStringLiteral("100% 80%"));
+    QCOMPARE(row.corked, false);
+    QCOMPARE(row.muted, true);
+}
+
+void tst_PulseAudio::keysAndPlaces_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QString>("mediaName");
+    QTest::addColumn<QString>("applicationName");
+    QTest::addColumn<QString>("volumeInfo");
+    QTest::addColumn<bool>("corked");
+    QTest::addColumn<bool>("muted");
+    const QString none;
+
+    QTest::newRow("corked") << QByteArray("\tCorked: yes") << none << none << none << true << false;
+    QTest::newRow("not corked") << QByteArray("\tCorked: no") << none << none << none << false << false;
+    QTest::newRow("yes before its place") << QByteArray("yes Corked:") << none << none << none << false << false;
+    QTest::newRow("yes at its place") << QByteArray("Corked: yes") << none << none << none << true << false;
+    QTest::newRow("yes one before its place") << QByteArray("Corked:yes") << none << none << none << false << false;
+    QTest::newRow("muted") << QByteArray("\tMute: yes") << none << none << none << false << true;
+    QTest::newRow("muted, one before its place") << QByteArray("Mute:yes") << none << none << none << false << false;
+    QTest::newRow("muted, far behind") << QByteArray("\tMute: no, oh yes") << none << none << none << false << true;
+    QTest::newRow("case counts") << QByteArray("\tmute: yes corked: yes") << none << none << none << false << false;
+    QTest::newRow("corked wins over mute")
+        << QByteArray("\tMute: no, yes Corked:") << none << none << none << true << false;
+    QTest::newRow("corked in a media name")
+        << QByteArray("\t\tmedia.name = \"Corked: yes\"") << none << none << none << true << false;
+    QTest::newRow("mute in a media name")
+        << QByteArray("\t\tmedia.name = \"Mute: no\"") << none << none << none << false << false;
+    QTest::newRow("volume in an application name")
+        << QByteArray("\t\tapplication.name = \"Volume: left: 1% right: 2%\"") << none << none
+        << QStringLiteral("1% 2%") << false << false;
+    QTest::newRow("media before application")
+        << QByteArray("application.name =  media.name = x") << QStringLiteral("me =  media.name = x") << none << none
+        << false << false;
+    QTest::newRow("media name") << QByteArray("\t\tmedia.name = \"a = b: c\"") << QStringLiteral("\"a = b: c\"") << none
+                                << none << false << false;
+    QTest::newRow("media name, trimmed") << QByteArray("\t\tmedia.name =  \t x y \t ") << QStringLiteral("x y") << none
+                                         << none << false << false;
+    QTest::newRow("media name, empty") << QByteArray("\t\tmedia.name =") << none << none << none << false << false;
+    QTest::newRow("media name, indented once")
+        << QByteArray("\tmedia.name = \"x\"") << QStringLiteral("\"x\"") << none << none << false << false;
+    QTest::newRow("media name, not indented")
+        << QByteArray("media.name = \"x\"") << QStringLiteral("x\"") << none << none << false << false;
+    QTest::newRow("media name without a blank")
+        << QByteArray("\t\tmedia.name=\"x\"") << none << none << none << false << false;
+    QTest::newRow("media name behind another key")
+        << QByteArray("\t\tnode.media.name = \"x\"") << QStringLiteral("ame = \"x\"") << none << none << false << false;
+    QTest::newRow("not latin") << QByteArray("\t\tmedia.name = \"\xc3\xa4\xe4\xbd\xa0\"")
+                               << QString::fromUtf8("\"\xc3\xa4\xe4\xbd\xa0\"") << none << none << false << false;
+    QTest::newRow("places count characters") << QByteArray("\xc3\xa4\xc3\xa4\xc3\xa4\xc3\xa4 media.name =Xy")
+                                             << QStringLiteral("e =Xy") << none << none << false << false;
+    QTest::newRow("application name") << QByteArray("\t\tapplication.name = \"paplay\"") << none
+                                      << QStringLiteral("\"paplay\"") << none << false << false;
+    QTest::newRow("application name without a blank")
+        << QByteArray("\t\tapplication.name=\"x\"") << none << none << none << false << false;
+    QTest::newRow("volume") << QByteArray("\tVolume: front-left: 1 / 12% / x,   front-right: 2 / 34% / x") << none
+                            << none << QStringLiteral("12% 34%") << false << false;
+    QTest::newRow("volume, last left and right count") << QByteArray("\tVolume: left: 1% right: 2% left: 3% right: 4%")
+                                                       << none << none << QStringLiteral("3% 4%") << false << false;
+    QTest::newRow("volume, mono") << QByteArray("\tVolume: mono: 65536 / 100% / 0.00 dB") << none << none << none
+                                  << false << false;
+    QTest::newRow("volume, left only") << QByteArray("\tVolume: front-left: 65536 / 100% / 0.00 dB") << none << none
+                                       << none << false << false;
+    QTest::newRow("volume, right before left")
+        << QByteArray("\tVolume: right: 1% left: 2%") << none << none << none << false << false;
+    QTest::newRow("volume, no percent") << QByteArray("\tVolume: left: 12 right: 34") << none << none << none << false
+                                        << false;
+    QTest::newRow("volume, left before its place")
+        << QByteArray("left: 1% Volume: right: 2%") << none << none << none << false << false;
+    QTest::newRow("nothing") << QByteArray("\tDriver: x") << none << none << none << false << false;
+}
+
+void tst_PulseAudio::keysAndPlaces()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QString, mediaName);
+    QFETCH(QString, applicationName);
+    QFETCH(QString, volumeInfo);
+    QFETCH(bool, corked);
+    QFETCH(bool, muted);
+    installListing(stream(1, line + "\n"));
+    const PulseAudio model;
+    QTRY_COMPARE(model.count(), 1);
+    const Row row = rowOf(model, 0);
+    QCOMPARE(row.mediaName, mediaName);
+    QCOMPARE(row.applicationName.isValid(), !applicationName.isEmpty());
+    QCOMPARE(row.applicationName.toString(), applicationName);
+    QCOMPARE(row.volumeInfo, volumeInfo);
+    QCOMPARE(row.corked, corked);
+    QCOMPARE(row.muted, muted);
+}
+
+void tst_PulseAudio::cutsBlocks_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QStringList>("mediaNames");
+    const QByteArray a = "\t\tmedia.name = a\n";
+    const QByteArray b = "\t\tmedia.name = b\n";
+    const auto names = [](std::initializer_list<const char *> list) {
+        QStringList result;
+        for (const char *name : list)
+            result << QString::fromLatin1(name);
+        return result;
+    };
+    QTest::newRow("text before") << QByteArray("oh\n\t\tmedia.name = x\n" + stream(1, a)) << names({"a"});
+    QTest::newRow("two") << QByteArray(stream(1, a) + "\n" + stream(2, b)) << names({"a", "b"});
+    QTest::newRow("last character is dropped") << QByteArray("Sink Input\n\t\tmedia.name = abc") << names({"ab"});
+    QTest::newRow("only the words") << QByteArray("Sink Input") << names({""});
+    QTest::newRow("one behind the other") << QByteArray("Sink InputSink InputSink Input\n") << names({"", "", ""});
+    QTest::newRow("words in a name cut the block")
+        << QByteArray(stream(1, "\t\tmedia.name = x Sink Input y\n" + b)) << names({"x", "b"});
+    QTest::newRow("case counts") << QByteArray(stream(1, a) + "sink input #2\n" + b) << names({"b"});
+    QTest::newRow("last line decides") << QByteArray(stream(1, a + b)) << names({"b"});
+    QTest::newRow("cut in the middle") << QByteArray(stream(1, a) + "Sink Inp") << names({"a"});
+}
+
+void tst_PulseAudio::cutsBlocks()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QStringList, mediaNames);
+    installListing(text);
+    PulseAudio model;
+    const QSignalSpy reset(&model, &PulseAudio::modelReset);
+    QTRY_COMPARE(reset.count(), 1);
+    QStringList found;
+    for (int row = 0; row < model.count(); ++row)
+        found << rowOf(model, row).mediaName;
+    QCOMPARE(found, mediaNames);
+}
+
+void tst_PulseAudio::roles()
+{
+    installListing(Playing);
+    const PulseAudio model;
+    const QHash<int, QByteArray> expected{
+        {257, "mediaName"}, {258, "applicationName"}, {259, "volumeInfo"}, {260, "corked"}, {261, "muted"}};
+    QCOMPARE(model.roleNames(), expected);
+    QTRY_COMPARE(model.count(), 1);
+    const QModelIndex index = model.index(0);
+    QCOMPARE(model.data(index, MediaName).userType(), int(QMetaType::QString));
+    QCOMPARE(model.data(index, Corked).userType(), int(QMetaType::Bool));
+    QVERIFY(!model.data(index, Qt::DisplayRole).isValid());
+    QVERIFY(!model.data(index, Qt::UserRole).isValid());
+    QVERIFY(!model.data(index, 262).isValid());
+    QVERIFY(!model.data(QModelIndex(), MediaName).isValid());
+}
+
+void tst_PulseAudio::indexes()
+{
+    installListing(Playing);
+    const PulseAudio model;
+    QVERIFY(!model.index(0).isValid());
+    QTRY_COMPARE(model.count(), 1);
+    const QModelIndex first = model.index(0);
+    QVERIFY(first.isValid());
+    QVERIFY(!model.index(1).isValid());
+    QVERIFY(!model.index(-1).isValid());
+    QVERIFY(!model.index(0, 1).isValid());
+    QVERIFY(!model.index(0, 0, first).isValid());
+    QCOMPARE(model.rowCount(first), 1);
+}
+
+void tst_PulseAudio::signalsOnlyAChangedCount()
+{
+    installListing(Playing);
+    PulseAudio model;
+    const QSignalSpy counts(&model, &PulseAudio::countChanged);
+    const QSignalSpy resets(&model, &PulseAudio::modelReset);
+    QTRY_COMPARE(resets.count(), 1);
+    QCOMPARE(counts.count(), 1);
+
+    QMetaObject::invokeMethod(&model, "refresh");
+    QTRY_COMPARE(resets.count(), 2);
+    QCOMPARE(counts.count(), 1);
+
+    installListing("Welcome to nothing\n");
+    QMetaObject::invokeMethod(&model, "refresh");
+    QTRY_COMPARE(resets.count(), 3);
+    QCOMPARE(model.count(), 0);
+    QCOMPARE(counts.count(), 2);
+}
+
+void tst_PulseAudio::resetsOnEveryPoll()
+{
+    installListing("");
+    PulseAudio model;
+    const QSignalSpy resets(&model, &PulseAudio::modelReset);
+    QTRY_COMPARE(resets.count(), 1);
+    QMetaObject::invokeMethod(&model, "refresh");
+    QTRY_COMPARE(resets.count(), 2);
+}
+
+void tst_PulseAudio::failingToolEmptiesTheListSilently_data()
+{
+    QTest::addColumn<QByteArray>("lines");
+    QTest::newRow("exit code") << QByteArray("cat " + Listing.toUtf8() + "; exit 1");
+    QTest::newRow("killed") << QByteArray("cat " + Listing.toUtf8() + "; kill -9 $$");
+    QTest::newRow("missing") << QByteArray();
+}
+
+void tst_PulseAudio::failingToolEmptiesTheListSilently()
+{
+    QFETCH(QByteArray, lines);
+    installListing(Playing);
+    PulseAudio model;
+    QTRY_COMPARE(model.count(), 1);
+
+    if (lines.isEmpty())
+        QFile::remove(Tool);
+    else
+        installTool(lines);
+    const QSignalSpy counts(&model, &PulseAudio::countChanged);
+    const QSignalSpy resets(&model, &PulseAudio::modelReset);
+    QMetaObject::invokeMethod(&model, "refresh");
+    QTRY_COMPARE(resets.count(), 1);
+    QCOMPARE(model.count(), 0);
+    QCOMPARE(counts.count(), 0);
+
+    // An empty list is not even reset.
+    QFile::remove(CallLog);
+    QMetaObject::invokeMethod(&model, "refresh");
+    QProcess *const process = model.findChild<QProcess *>();
+    QTRY_COMPARE(process->state(), QProcess::NotRunning);
+    QCOMPARE(resets.count(), 1);
+}
+
+void tst_PulseAudio::callsTheToolWithItsArguments()
+{
+    installListing("");
+    PulseAudio model;
+    const QSignalSpy resets(&model, &PulseAudio::modelReset);
+    QTRY_COMPARE(resets.count(), 1);
+    QFile log(CallLog);
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    QCOMPARE(log.readAll(), QByteArray("list sink-inputs\n"));
+}
+
+void tst_PulseAudio::pollsAgain()
+{
+    installListing("");
+    PulseAudio model;
+    const QSignalSpy resets(&model, &PulseAudio::modelReset);
+    QTRY_COMPARE(resets.count(), 1);
+    QElapsedTimer timer;
+    timer.start();
+    QTRY_COMPARE_WITH_TIMEOUT(resets.count(), 2, 8000);
+    QVERIFY2(timer.elapsed() > 5500, "the poll came too early");
+}
+
+void tst_PulseAudio::dropsAPollThatStillRuns()
+{
+    installTool("cat " + Listing.toUtf8() + "; exec sleep 1000");
+    writeFile(Listing, Playing);
+    PulseAudio model;
+    const QSignalSpy resets(&model, &PulseAudio::modelReset);
+    QTRY_VERIFY(QFile::exists(CallLog));
+    const qint64 pid = model.findChild<QProcess *>()->processId();
+
+    installListing("");
+    const MessageLog log;
+    QMetaObject::invokeMethod(&model, "refresh");
+    QCOMPARE(log.all(), QStringList());
+    QVERIFY2(::kill(pid_t(pid), 0) != 0, "the earlier tool still runs");
+    QCOMPARE(model.findChildren<QProcess *>().size(), 1);
+    QTRY_COMPARE(resets.count(), 1);
+    QCOMPARE(model.count(), 0);
+}
+
+void tst_PulseAudio::isDestroyedDuringAPoll()
+{
+    installTool("exec sleep 1000");
+    auto model = std::make_unique<PulseAudio>();
+    const qint64 pid = model->findChild<QProcess *>()->processId();
+    QElapsedTimer timer;
+    timer.start();
+    model.reset();
+    QVERIFY(timer.elapsed() < 5000);
+    QVERIFY(::kill(pid_t(pid), 0) != 0);
+}
+
+void tst_PulseAudio::largeAndOddOutput()
+{
+    QByteArray text;
+    for (int i = 0; i < 3000; ++i)
+        text += stream(i, QByteArray("\t\tmedia.name = \"") + QByteArray(500, char('a' + i % 26)) + "\"\n");
+    text += QByteArray("Sink Input\n\t\tmedia.name = \xff\xfe"
+                       "a\0b\n",
+                       31);
+    installListing(text);
+    const PulseAudio model;
+    QTRY_COMPARE(model.count(), 3001);
+    QCOMPARE(rowOf(model, 2999).mediaName.size(), 502);
+}
+
+QTEST_GUILESS_MAIN(tst_PulseAudio)
+#include "tst_pulseaudio.moc"
