@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "audioroute.h"
 
+#include "dbuscall.h"
+
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -24,9 +26,7 @@ enum DeviceType : uint
 
 QDBusMessage methodCall(const QString &method)
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(Service, Path, Interface, method);
-    message.setAutoStartService(false);
-    return message;
+    return QDBusMessage::createMethodCall(Service, Path, Interface, method);
 }
 }
 
@@ -38,7 +38,8 @@ AudioRoute::AudioRoute(QObject *parent) : QObject(parent), m_bus(QDBusConnection
     m_bus.connect(Service, Path, Interface, QStringLiteral("AudioRouteChanged"), QStringLiteral("su"), this,
                   SLOT(handleAudioRouteChanged(QString, uint)));
 
-    const auto watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(methodCall(QStringLiteral("GetAll"))), this);
+    const auto watcher =
+        new QDBusPendingCallWatcher(callRunningService(m_bus, methodCall(QStringLiteral("GetAll"))), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &AudioRoute::handleGetAllReply);
 }
 
@@ -67,6 +68,7 @@ void AudioRoute::setFmRadio(bool enable)
 {
     QDBusMessage message = methodCall(enable ? QStringLiteral("Enable") : QStringLiteral("Disable"));
     message << FmRadioFeature;
+    message.setAutoStartService(false);
     m_bus.call(message, QDBus::Block);
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "channelwriter.h"
+#include "metaobject.h"
 
 #include <QBuffer>
 #include <QtTest>
@@ -218,10 +219,8 @@ void tst_ChannelWriter::cannotBeRead()
 
 void tst_ChannelWriter::hasNoInterfaceOfItsOwn()
 {
-    const QMetaObject &meta = ChannelWriter::staticMetaObject;
-    QCOMPARE(meta.methodCount(), meta.methodOffset());
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.className(), "ChannelWriter");
+    QCOMPARE(ownInterface(ChannelWriter::staticMetaObject), QStringList());
+    QCOMPARE(ChannelWriter::staticMetaObject.className(), "ChannelWriter");
 }
 
 QTEST_GUILESS_MAIN(tst_ChannelWriter)

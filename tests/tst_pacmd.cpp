@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "files.h"
 #include "messagelog.h"
+#include "metaobject.h"
 #include "pacmd.h"
 
 #include <QElapsedTimer>
@@ -11,24 +13,14 @@ namespace
 const QString Scratch = QStringLiteral("/run/kiv-test/");
 const QString ToolDirectory = QStringLiteral("/usr/local/bin/");
 
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly | QIODevice::Truncate), qPrintable(file.errorString()));
-    file.write(content);
-}
-
 void installTool(const QString &name, const QByteArray &lines)
 {
-    QFile::remove(ToolDirectory + name);
-    writeFile(ToolDirectory + name, "#!/bin/sh\n" + lines + "\n");
-    QVERIFY(QFile::setPermissions(ToolDirectory + name, QFile::Permissions(0x7755)));
+    writeScript(ToolDirectory + name, lines + '\n');
 }
 
-QByteArray readFile(const QString &name)
+QByteArray recorded(const QString &name)
 {
-    QFile file(Scratch + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return readFile(Scratch + name);
 }
 
 /*! A listing of the sound server's tool, as it prints it. */
@@ -80,33 +72,24 @@ void tst_PaCmd::init()
 
 void tst_PaCmd::metaObject()
 {
-    const QMetaObject &meta = PaCmd::staticMetaObject;
-    QStringList methods;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        const QMetaMethod method = meta.method(i);
-        QCOMPARE(method.methodType(), QMetaMethod::Slot);
-        QCOMPARE(method.access(), QMetaMethod::Public);
-        methods << QString::fromLatin1(QByteArray(method.typeName()) + ' ' + method.methodSignature());
-    }
-    QCOMPARE(methods,
+    QCOMPARE(ownInterface(PaCmd::staticMetaObject),
              QStringList({
-                 QStringLiteral("QString primarySinkName()"),
-                 QStringLiteral("QString primarySinkActivePort()"),
-                 QStringLiteral("QString sourceName(QString)"),
-                 QStringLiteral("QString sourceActivePort(QString)"),
-                 QStringLiteral("QString builtinSourceName()"),
-                 QStringLiteral("QString externalSourceName()"),
-                 QStringLiteral("QString builtinSourceActivePort()"),
-                 QStringLiteral("QString externalSourceActivePort()"),
-                 QStringLiteral("bool sourceIsCombined()"),
-                 QStringLiteral("void setSinkPort(QString,QString)"),
-                 QStringLiteral("void setPrimarySinkPort(QString)"),
-                 QStringLiteral("void setPrimarySinkProperty(QString)"),
-                 QStringLiteral("void setSourcePort(QString,QString)"),
-                 QStringLiteral("void setBuiltinSourcePort(QString)"),
-                 QStringLiteral("void setExternalSourcePort(QString)"),
+                 QStringLiteral("slot QString primarySinkName()"),
+                 QStringLiteral("slot QString primarySinkActivePort()"),
+                 QStringLiteral("slot QString sourceName(QString)"),
+                 QStringLiteral("slot QString sourceActivePort(QString)"),
+                 QStringLiteral("slot QString builtinSourceName()"),
+                 QStringLiteral("slot QString externalSourceName()"),
+                 QStringLiteral("slot QString builtinSourceActivePort()"),
+                 QStringLiteral("slot QString externalSourceActivePort()"),
+                 QStringLiteral("slot bool sourceIsCombined()"),
+                 QStringLiteral("slot setSinkPort(QString,QString)"),
+                 QStringLiteral("slot setPrimarySinkPort(QString)"),
+                 QStringLiteral("slot setPrimarySinkProperty(QString)"),
+                 QStringLiteral("slot setSourcePort(QString,QString)"),
+                 QStringLiteral("slot setBuiltinSourcePort(QString)"),
+                 QStringLiteral("slot setExternalSourcePort(QString)"),
              }));
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
 }
 
 void tst_PaCmd::runsTheseCommands_data()
@@ -178,7 +161,7 @@ void tst_PaCmd::runsTheseCommands()
     QByteArray expected;
     for (const QByteArray &command : qAsConst(commands))
         expected += QByteArray("2\0-c\0", 5) + command + '\0';
-    QCOMPARE(readFile(QStringLiteral("commands")), expected);
+    QCOMPARE(recorded(QStringLiteral("commands")), expected);
 }
 
 void tst_PaCmd::picksItsAnswer_data()
@@ -272,7 +255,7 @@ void tst_PaCmd::portsAreNotQuoted()
     installTool(QStringLiteral("pactl"), "for word; do echo \"<$word>\"; done >>/run/kiv-test/calls");
     const MessageLog log;
     PaCmd().setSinkPort(QStringLiteral("sink"), QStringLiteral("two words"));
-    QCOMPARE(readFile(QStringLiteral("calls")), QByteArray("<set-sink-port>\n<sink>\n<two>\n<words>\n"));
+    QCOMPARE(recorded(QStringLiteral("calls")), QByteArray("<set-sink-port>\n<sink>\n<two>\n<words>\n"));
 }
 
 void tst_PaCmd::isEmptyWithoutTheTool()
@@ -303,7 +286,7 @@ void tst_PaCmd::keepsWhatAHangingToolHasPrinted()
     QCOMPARE(PaCmd().primarySinkName(), QStringLiteral("partial"));
     QVERIFY2(timer.elapsed() >= 30000 && timer.elapsed() < 33000, qPrintable(QString::number(timer.elapsed())));
     // Nothing of the pipeline is left behind.
-    const QByteArray pid = readFile(QStringLiteral("calls")).trimmed();
+    const QByteArray pid = recorded(QStringLiteral("calls")).trimmed();
     QTRY_VERIFY(!QFile::exists(QStringLiteral("/proc/") + QString::fromLatin1(pid)));
     QCOMPARE(log.all(), QStringList());
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "files.h"
 #include "messagelog.h"
+#include "metaobject.h"
 #include "pulseaudio.h"
 
 #include <QtTest>
@@ -21,19 +23,10 @@ enum Role
     Muted
 };
 
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly | QIODevice::Truncate), qPrintable(file.errorString()));
-    file.write(content);
-}
-
 /*! Puts a shell script in the tool's place. It has logged its arguments when it comes to the given lines. */
 void installTool(const QByteArray &lines)
 {
-    QFile::remove(Tool);
-    writeFile(Tool, "#!/bin/sh\necho \"$@\" >>" + CallLog.toUtf8() + "\n" + lines + "\n");
-    QVERIFY(QFile::setPermissions(Tool, QFile::Permissions(0x7755)));
+    writeScript(Tool, "echo \"$@\" >>" + CallLog.toUtf8() + "\n" + lines + "\n");
 }
 
 void installListing(const QByteArray &text)
@@ -110,18 +103,9 @@ void tst_PulseAudio::init()
 
 void tst_PulseAudio::metaObject()
 {
-    const QMetaObject &meta = PulseAudio::staticMetaObject;
-    QStringList methods;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        methods << QString::fromLatin1(meta.method(i).methodSignature());
-    QCOMPARE(methods, QStringList({QStringLiteral("countChanged()"), QStringLiteral("refresh()")}));
-    QCOMPARE(meta.method(meta.indexOfSlot("refresh()")).access(), QMetaMethod::Private);
-    QCOMPARE(meta.propertyCount() - meta.propertyOffset(), 1);
-    const QMetaProperty count = meta.property(meta.propertyOffset());
-    QCOMPARE(count.name(), "count");
-    QCOMPARE(count.userType(), int(QMetaType::Int));
-    QVERIFY(!count.isWritable());
-    QCOMPARE(count.notifySignal().methodSignature(), QByteArray("countChanged()"));
+    QCOMPARE(ownInterface(PulseAudio::staticMetaObject),
+             QStringList({QStringLiteral("property int count notify countChanged"),
+                          QStringLiteral("signal countChanged()"), QStringLiteral("private slot refresh()")}));
 }
 
 void tst_PulseAudio::readsAListing()
@@ -368,9 +352,7 @@ void tst_PulseAudio::callsTheToolWithItsArguments()
     PulseAudio model;
     const QSignalSpy resets(&model, &PulseAudio::modelReset);
     QTRY_COMPARE(resets.count(), 1);
-    QFile log(CallLog);
-    QVERIFY(log.open(QIODevice::ReadOnly));
-    QCOMPARE(log.readAll(), QByteArray("list sink-inputs\n"));
+    QCOMPARE(readFile(CallLog), QByteArray("list sink-inputs\n"));
 }
 
 void tst_PulseAudio::pollsAgain()
