@@ -4,6 +4,7 @@
 #include "battery.h"
 #include "factoryutils.h"
 #include "gps.h"
+#include "halldetect.h"
 #include "kivutils.h"
 #include "mce.h"
 #include "mcebuttonbacklight.h"
@@ -41,6 +42,7 @@ QObject *factoryUtilsProvider(QQmlEngine *, QJSEngine *)
 // 24 SensorCalibrationResolver     25 SensorCalibration                    26 MceButtonBacklight
 void registerKivTypes()
 {
+    registerType<HallDetect>("HallDetect");
     registerType<Battery>("Battery");
     registerType<SdCardTest>("SdCardTest");
     registerType<RadioPreference>("RadioPreference");
