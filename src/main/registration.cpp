@@ -5,6 +5,7 @@
 #include "factoryutils.h"
 #include "gps.h"
 #include "halldetect.h"
+#include "headsetdetect.h"
 #include "kivutils.h"
 #include "mce.h"
 #include "mcebuttonbacklight.h"
@@ -42,6 +43,7 @@ QObject *factoryUtilsProvider(QQmlEngine *, QJSEngine *)
 // 24 SensorCalibrationResolver     25 SensorCalibration                    26 MceButtonBacklight
 void registerKivTypes()
 {
+    registerType<HeadsetDetect>("HeadsetDetect");
     registerType<HallDetect>("HallDetect");
     registerType<Battery>("Battery");
     registerType<SdCardTest>("SdCardTest");
