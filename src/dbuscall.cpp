@@ -12,3 +12,9 @@ QDBusPendingCall callRunningService(const QDBusConnection &bus, QDBusMessage cal
     call.setAutoStartService(false);
     return bus.asyncCall(call);
 }
+
+bool subscribe(QDBusConnection bus, const QString &service, const QString &path, const QString &interface,
+               const QString &member, const QString &signature, QObject *receiver, const char *slot)
+{
+    return bus.isConnected() && bus.connect(service, path, interface, member, QStringList(), signature, receiver, slot);
+}

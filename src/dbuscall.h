@@ -14,4 +14,14 @@
  */
 QDBusPendingCall callRunningService(const QDBusConnection &bus, QDBusMessage call);
 
+/*!
+ * Connects a broadcast to a slot given with SLOT(). False when that is not possible, as without a bus.
+ *
+ * Only what has exactly this D-Bus signature, and comes from the owner of the service, reaches the slot: Qt ends the
+ * process over a container that comes where the slot takes a plain value. Qt also ends it over a subscription on a bus
+ * that has gone; here that fails.
+ */
+bool subscribe(QDBusConnection bus, const QString &service, const QString &path, const QString &interface,
+               const QString &member, const QString &signature, QObject *receiver, const char *slot);
+
 #endif

@@ -16,7 +16,7 @@ Gps::Gps(QObject *parent)
     : QObject(parent), m_serviceWatcher(new QDBusServiceWatcher(this)),
       m_satelliteSource(QGeoSatelliteInfoSource::createDefaultSource(this))
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    const QDBusConnection bus = QDBusConnection::sessionBus();
     m_serviceWatcher->setConnection(bus);
     connect(m_serviceWatcher, &QDBusServiceWatcher::serviceUnregistered, this, &Gps::serviceUnregistered);
     m_serviceWatcher->addWatchedService(Service);
@@ -25,9 +25,8 @@ Gps::Gps(QObject *parent)
     const auto *watcher = new QDBusPendingCallWatcher(callRunningService(bus, call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &Gps::providerGetStatusFinished);
 
-    // With the signature, so that a broadcast of any other shape is left out before Qt tries to convert it.
-    bus.connect(Service, Path, Interface, QStringLiteral("StatusChanged"), QStringList(), QStringLiteral("i"), this,
-                SLOT(positionProviderStatusChanged(int)));
+    subscribe(bus, Service, Path, Interface, QStringLiteral("StatusChanged"), QStringLiteral("i"), this,
+              SLOT(positionProviderStatusChanged(int)));
 
     if (m_satelliteSource) {
         connect(m_satelliteSource, &QGeoSatelliteInfoSource::satellitesInViewUpdated, this,

@@ -29,8 +29,11 @@ Mce::Mce(QObject *parent)
     requestRadioStates();
 
     m_signal = new ComNokiaMceSignalInterface(Service, SignalPath, QDBusConnection::systemBus(), this);
-    connect(m_signal, &ComNokiaMceSignalInterface::config_change_ind, this, &Mce::configChange);
-    connect(m_signal, &ComNokiaMceSignalInterface::radio_states_ind, this, &Mce::updateRadioStates);
+    // Qt ends the process over a subscription on a bus that has gone.
+    if (m_signal->connection().isConnected()) {
+        connect(m_signal, &ComNokiaMceSignalInterface::config_change_ind, this, &Mce::configChange);
+        connect(m_signal, &ComNokiaMceSignalInterface::radio_states_ind, this, &Mce::updateRadioStates);
+    }
 
     m_pollTimer.start(int(PollInterval.count()), this);
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "usbotg.h"
 
-#include <QDBusConnection>
+#include "dbuscall.h"
+
 #include <QDBusObjectPath>
 #include <QDebug>
 
@@ -12,19 +13,18 @@ const QString Path = QStringLiteral("/org/freedesktop/systemd1");
 const QString Interface = QStringLiteral("org.freedesktop.systemd1.Manager");
 const QString UnitPattern = QStringLiteral("dev-sd*.device");
 
-void subscribe(const char *member, UsbOtg *receiver, const char *slot)
+void subscribeToUnits(const char *member, UsbOtg *receiver, const char *slot)
 {
-    // With the signature, so that a broadcast of any other shape is left out before Qt tries to convert it.
-    if (!QDBusConnection::systemBus().connect(QLatin1String(Service), Path, Interface, QLatin1String(member),
-                                              QStringList(), QStringLiteral("so"), receiver, slot))
+    if (!subscribe(QDBusConnection::systemBus(), QLatin1String(Service), Path, Interface, QLatin1String(member),
+                   QStringLiteral("so"), receiver, slot))
         qWarning() << "Failed to connect " << Service << " " << member;
 }
 }
 
 UsbOtg::UsbOtg(QObject *parent) : QObject(parent), m_unitPattern(UnitPattern, Qt::CaseSensitive, QRegExp::Wildcard)
 {
-    subscribe("UnitNew", this, SLOT(newUnit(QString, QDBusObjectPath)));
-    subscribe("UnitRemoved", this, SLOT(unitRemoved(QString, QDBusObjectPath)));
+    subscribeToUnits("UnitNew", this, SLOT(newUnit(QString, QDBusObjectPath)));
+    subscribeToUnits("UnitRemoved", this, SLOT(unitRemoved(QString, QDBusObjectPath)));
 }
 
 bool UsbOtg::massStorage() const

@@ -31,10 +31,9 @@ QVariantMap propertiesIn(const QDBusMessage &reply)
 
 Zel::Zel(QObject *parent) : QObject(parent)
 {
-    QDBusConnection bus = QDBusConnection::systemBus();
-    // With the signature, so that a broadcast of any other shape is left out before Qt tries to convert it.
-    bus.connect(Service, Path, PropertiesInterface, QStringLiteral("PropertiesChanged"), QStringList(),
-                QStringLiteral("sa{sv}as"), this, SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
+    const QDBusConnection bus = QDBusConnection::systemBus();
+    subscribe(bus, Service, Path, PropertiesInterface, QStringLiteral("PropertiesChanged"), QStringLiteral("sa{sv}as"),
+              this, SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
 
     // Without a QDBusInterface, whose constructor starts the daemon and waits until that has described itself.
     QDBusMessage call = QDBusMessage::createMethodCall(Service, Path, PropertiesInterface, QStringLiteral("GetAll"));
