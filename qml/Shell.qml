@@ -25,7 +25,8 @@ Item {
     implicitHeight: 640
 
     function show(name) {
-        working.cancel();
+        if (working.item)
+            working.item.cancel();
         // The old screen is deleted later; what its page changed is put back before the new one looks.
         if (screens.item && screens.item.leave)
             screens.item.leave();
@@ -34,7 +35,8 @@ Item {
 
     /*! Runs a job that blocks, after a screen that says so has been drawn. */
     function blocking(text, job) {
-        working.run(text, job);
+        working.active = true;
+        working.item.run(text, job);
     }
 
     function showHome() {
@@ -146,8 +148,11 @@ Item {
         focus: true
     }
 
-    Working {
+    // Made when it is first wanted.
+    Loader {
         id: working
         anchors.fill: parent
+        active: false
+        source: "controls/Working.qml"
     }
 }

@@ -75,3 +75,33 @@ var glyphs = {
     "system": [["r", 5, 5, 14, 14, 2], ["r", 9.5, 9.5, 5, 5, 0.5], ["l", 9, 2, 9, 4], ["l", 15, 2, 15, 4], ["l", 9, 20, 9, 22],
                ["l", 15, 20, 15, 22], ["l", 2, 9, 4, 9], ["l", 2, 15, 4, 15], ["l", 20, 9, 22, 9], ["l", 20, 15, 22, 15]]
 };
+
+// The rectangles that draw an icon at a size: place, corner radius, rotation in degrees, and the width of the border of a
+// hollow one (0 for a filled one).
+function strokes(name, size) {
+    var parts = glyphs[name];
+    if (!parts)
+        return [];
+    var scale = size / 24;
+    var pen = 2 * scale;
+    return parts.map(function(part) {
+        var x = part[1] * scale;
+        var y = part[2] * scale;
+        var a = part[3] * scale;
+        var b = part[4] * scale;
+        switch (part[0]) {
+        case "l":
+            var length = Math.sqrt((a - x) * (a - x) + (b - y) * (b - y)) + pen;
+            return { x: (x + a - length) / 2, y: (y + b - pen) / 2, width: length, height: pen, radius: pen / 2,
+                     rotation: Math.atan2(b - y, a - x) * 180 / Math.PI, hollow: 0 };
+        case "r":
+            return { x: x, y: y, width: a, height: b, radius: part[5] * scale, rotation: 0, hollow: pen };
+        case "f":
+            return { x: x, y: y, width: a, height: b, radius: part[5] * scale, rotation: 0, hollow: 0 };
+        case "c":
+            return { x: x - a, y: y - a, width: 2 * a, height: 2 * a, radius: a, rotation: 0, hollow: pen };
+        default:
+            return { x: x - a, y: y - a, width: 2 * a, height: 2 * a, radius: a, rotation: 0, hollow: 0 };
+        }
+    });
+}

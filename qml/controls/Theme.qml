@@ -7,9 +7,10 @@ import QtQuick 2.15
  * the width of a phone held upright, so that one unit is about 1.4 mm on a 5 inch panel of any resolution.
  */
 QtObject {
-    /*! Set by the shell to the window's size. */
-    property real width: 360
-    property real height: 640
+    /*! Set by the shell to the window's size. Until it has one, the panel's is the best guess. */
+    property real width: panel ? panel.width : 360
+    property real height: panel ? panel.height : 640
+    readonly property var panel: Qt.application.screens[0]
     property bool dark: false
 
     readonly property int unit: Math.max(4, Math.floor(Math.min(width / 45, height / 72)))

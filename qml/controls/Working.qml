@@ -8,6 +8,7 @@ import QtQuick.Window 2.15
  */
 Rectangle {
     id: working
+    objectName: "working"
 
     property string text
     property var job: null

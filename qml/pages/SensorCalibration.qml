@@ -103,6 +103,7 @@ TestPage {
             PushButton {
                 width: parent.width
                 enabled: calibration.enabled
+                objectName: "calibrate-" + modelData.sensor
                 fill: Theme.accent
                 ink: Theme.accentInk
                 //% "Calibrate"
@@ -115,6 +116,7 @@ TestPage {
 
                 PushButton {
                     width: (parent.width - parent.spacing) / 2
+                    objectName: "restore-" + modelData.sensor
                     enabled: calibration.enabled
                     //% "Take back"
                     text: qsTrId("kiv-sensor-restore")
@@ -122,6 +124,7 @@ TestPage {
                 }
                 PushButton {
                     width: (parent.width - parent.spacing) / 2
+                    objectName: "reset-" + modelData.sensor
                     enabled: calibration.enabled
                     //% "Factory values"
                     text: qsTrId("kiv-sensor-reset")

@@ -47,6 +47,7 @@ Item {
                 onClicked: Qt.quit()
             }
             PushButton {
+                objectName: "accept"
                 width: (parent.width - parent.spacing) * 0.64
                 fill: Theme.accent
                 ink: Theme.accentInk

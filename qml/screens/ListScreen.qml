@@ -71,6 +71,7 @@ Item {
                     x: Theme.margin
                     anchors.verticalCenter: parent.verticalCenter
                     name: line.entry.row.glyph
+                    size: 3.5 * Theme.unit
                     color: line.ready ? Theme.accent : Theme.muted
                 }
                 Column {
@@ -131,6 +132,7 @@ Item {
             }
             PushButton {
                 width: parent.width - (summaryButton.useful ? summaryButton.width + parent.spacing : 0)
+                objectName: "start"
                 fill: Theme.accent
                 ink: Theme.accentInk
                 visible: screen.untested.length > 0

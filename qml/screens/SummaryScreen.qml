@@ -13,8 +13,9 @@ Item {
     readonly property var flow: shell ? shell.flow : null
     readonly property int failed: flow ? flow.count(FactoryUtils.Fail) : 0
     readonly property int untested: flow ? flow.count(FactoryUtils.Untest) : 0
-    readonly property string code: failed > 0 ? FactoryUtils.Fail : untested > 0 ? FactoryUtils.Untest
-                                                                                 : FactoryUtils.Pass
+    readonly property int passed: flow ? flow.count(FactoryUtils.Pass) : 0
+    readonly property string code: failed > 0 ? FactoryUtils.Fail
+                                   : untested > 0 || passed === 0 ? FactoryUtils.Untest : FactoryUtils.Pass
     readonly property var look: Style.looks[code]
     readonly property var order: [FactoryUtils.Fail, FactoryUtils.Untest, FactoryUtils.NA, FactoryUtils.Pass]
     readonly property var sorted: {
@@ -70,9 +71,9 @@ Item {
                 color: Theme[screen.look.on]
                 font.pixelSize: Theme.display
                 font.weight: Font.Bold
-                text: screen.failed > 0 ? Style.word(FactoryUtils.Fail)
+                text: screen.code === FactoryUtils.Untest
                       //% "Not complete"
-                      : screen.untested > 0 ? qsTrId("kiv-summary-incomplete") : Style.word(FactoryUtils.Pass)
+                      ? qsTrId("kiv-summary-incomplete") : Style.word(screen.code)
             }
         }
     }
@@ -199,6 +200,7 @@ Item {
 
             PushButton {
                 width: (parent.width - parent.spacing) / 2
+                objectName: "retest"
                 readonly property var failedRows: screen.flow ? screen.flow.rowsWith(FactoryUtils.Fail) : []
                 text: failedRows.length > 0
                       ? //% "Retest the failed"
@@ -214,6 +216,7 @@ Item {
             }
             PushButton {
                 width: (parent.width - parent.spacing) / 2
+                objectName: "next"
                 fill: Theme.accent
                 ink: Theme.accentInk
                 //% "Next phone"

@@ -69,6 +69,7 @@ Item {
 
     Header {
         id: header
+        objectName: "header"
         width: parent.width
         visible: !screen.fullScreen
         //% "Leave this test"
@@ -85,6 +86,7 @@ Item {
             height: Theme.target
             outlined: false
             fill: "transparent"
+            objectName: "retry"
             glyph: "retry"
             //% "Try again"
             Accessible.name: qsTrId("kiv-test-retry")

@@ -9,8 +9,7 @@ QtObject {
     property var battery: ({})
     property var unsupported: []
     property var factoryTests: null
-    property var runInTests: ["VerificationLcdBacklight", "VerificationBackCamera", "VerificationLcd",
-                              "AudioPlayMusicLoudspeaker", "VerificationVideoPlayback"]
+    property var runInTests: []
     property var settings: ({})
     property var keys: [0x01000072, 0x01000070]
     property bool batteryVoltageTest: true
@@ -46,6 +45,8 @@ QtObject {
         battery = goodBattery();
         unsupported = [];
         factoryTests = null;
+        runInTests = ["VerificationLcdBacklight", "VerificationBackCamera", "VerificationLcd",
+                      "AudioPlayMusicLoudspeaker", "VerificationVideoPlayback"];
         settings = { "CalibrationInfo/Flag": "1", "CalibrationInfo/String": "K-2207" };
         keys = [0x01000072, 0x01000070];
         batteryVoltageTest = true;

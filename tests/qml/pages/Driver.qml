@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import QtTest 1.15
+import Kiv 1.0
+import KivFake 1.0
+import "../../../qml"
+
+/*! What the tests of the screens share: a shell in a window, and hands to work it. */
+TestCase {
+    id: driver
+
+    property var shell: null
+    readonly property var frame: shell ? shell.screen : null
+    readonly property var page: frame && frame.page !== undefined ? frame.page : null
+
+    when: windowShown
+    visible: true
+    width: 360
+    height: 640
+
+    Component {
+        id: shellComponent
+        Shell {
+            width: 360
+            height: 640
+        }
+    }
+
+    function init() {
+        Phone.reset();
+    }
+
+    function cleanup() {
+        if (shell)
+            shell.destroy();
+        shell = null;
+        wait(0);
+    }
+
+    function start(startPage) {
+        shell = shellComponent.createObject(driver, { startPage: startPage });
+        verify(shell);
+    }
+
+    /*! Opens one test and waits until its page is on the screen. */
+    function openTest(name) {
+        start(name);
+        tryVerify(function() { return page !== null; });
+        tryVerify(function() { return page.isOpen; });
+        // A fake is as fast as the test wants, a page polls once a second.
+        return page;
+    }
+
+    function find(name) {
+        var found = findChild(shell, name);
+        verify(found, name);
+        return found;
+    }
+
+    function tap(name) {
+        var button = find(name);
+        mouseClick(button);
+    }
+
+    function holdPass() {
+        var button = find("pass");
+        var middle = button.mapToItem(shell, button.width / 2, button.height / 2);
+        mousePress(shell, middle.x, middle.y);
+        wait(700);
+        // The button is gone by now where it has acted.
+        mouseRelease(shell, middle.x, middle.y);
+    }
+
+    /*! The verdict that the flow keeps for a test. */
+    function kept(name) {
+        return shell.flow.results[name];
+    }
+}
