@@ -10,6 +10,7 @@
 #include "mce.h"
 #include "mcebuttonbacklight.h"
 #include "radiopreference.h"
+#include "uptime.h"
 #include "usbotg.h"
 #include "zel.h"
 #include "sdcardtest.h"
@@ -48,6 +49,7 @@ void registerKivTypes()
     registerType<Battery>("Battery");
     registerType<SdCardTest>("SdCardTest");
     registerType<RadioPreference>("RadioPreference");
+    registerType<Uptime>("Uptime");
     registerType<Zel>("Zel");
     registerType<UsbOtg>("UsbOtg");
     registerType<Gps>("Gps");
