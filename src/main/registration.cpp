@@ -14,6 +14,7 @@
 #include "usbotg.h"
 #include "zel.h"
 #include "sdcardtest.h"
+#include "touch.h"
 
 #include <QtQml>
 
@@ -47,6 +48,7 @@ void registerKivTypes()
     registerType<HeadsetDetect>("HeadsetDetect");
     registerType<HallDetect>("HallDetect");
     registerType<Battery>("Battery");
+    registerType<Touch>("Touch");
     registerType<SdCardTest>("SdCardTest");
     registerType<RadioPreference>("RadioPreference");
     registerType<Uptime>("Uptime");
