@@ -9,6 +9,7 @@
 #include "kivutils.h"
 #include "mce.h"
 #include "mcebuttonbacklight.h"
+#include "processes.h"
 #include "radiopreference.h"
 #include "uptime.h"
 #include "usbotg.h"
@@ -56,6 +57,7 @@ void registerKivTypes()
     registerType<UsbOtg>("UsbOtg");
     registerType<Gps>("Gps");
     registerType<KivUtils>("KivUtils");
+    registerType<Processes>("Processes");
     registerType<Mce>("Mce");
     qmlRegisterSingletonType<FactoryUtils>(Uri, Major, Minor, "FactoryUtils", factoryUtilsProvider);
     qmlRegisterUncreatableType<MceButtonBacklight>(Uri, Major, Minor, "MceButtonBacklight",
