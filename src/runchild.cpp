@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "runchild.h"
 
+#include <QDeadlineTimer>
 #include <QProcess>
 
 #include <signal.h>
@@ -23,21 +24,36 @@ protected:
 };
 }
 
-ChildResult runChild(const QString &program, const QStringList &arguments, std::chrono::milliseconds timeout)
+ChildResult runChild(const QString &program, const QStringList &arguments, std::chrono::milliseconds timeout,
+                     ChildErrors errors, ChildInput input)
 {
     GroupLeader process;
-    process.setStandardErrorFile(QProcess::nullDevice());
+    if (input == ChildInput::Empty)
+        process.setStandardInputFile(QProcess::nullDevice());
+    if (errors == ChildErrors::Forwarded)
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    else
+        process.setStandardErrorFile(QProcess::nullDevice());
     process.start(program, arguments, QIODevice::ReadWrite);
 
     ChildResult result;
-    result.finished = process.waitForFinished(int(timeout.count()));
-    result.output = process.readAllStandardOutput();
+    const auto takeOutput = [&] {
+        const QByteArray output = process.readAllStandardOutput();
+        result.output.append(output.constData(), qMin(output.size(), MaximumChildOutput - result.output.size()));
+    };
+    result.started = process.waitForStarted(int(timeout.count()));
+    if (result.started) {
+        const QDeadlineTimer deadline(timeout);
+        while (process.waitForReadyRead(int(deadline.remainingTime())))
+            takeOutput();
+        result.finished =
+            process.state() == QProcess::NotRunning || process.waitForFinished(int(deadline.remainingTime()));
+        takeOutput();
+    }
     if (result.finished) {
         result.exitedNormally = process.exitStatus() == QProcess::NormalExit;
         result.exitCode = process.exitCode();
-        return result;
-    }
-    if (process.state() != QProcess::NotRunning) {
+    } else if (process.state() != QProcess::NotRunning) {
         process.killGroup();
         process.waitForFinished(-1);
     }
