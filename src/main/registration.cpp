@@ -15,6 +15,8 @@
 #include "usbotg.h"
 #include "zel.h"
 #include "sdcardtest.h"
+#include "sensorcalibration.h"
+#include "sensorcalibrationresolver.h"
 #include "touch.h"
 
 #include <QtQml>
@@ -35,6 +37,11 @@ void registerType(const char *name)
 QObject *factoryUtilsProvider(QQmlEngine *, QJSEngine *)
 {
     return new FactoryUtils(nullptr);
+}
+
+QObject *sensorCalibrationResolverProvider(QQmlEngine *, QJSEngine *)
+{
+    return new SensorCalibrationResolver(nullptr);
 }
 }
 
@@ -60,6 +67,9 @@ void registerKivTypes()
     registerType<Processes>("Processes");
     registerType<Mce>("Mce");
     qmlRegisterSingletonType<FactoryUtils>(Uri, Major, Minor, "FactoryUtils", factoryUtilsProvider);
+    qmlRegisterSingletonType<SensorCalibrationResolver>(Uri, Major, Minor, "SensorCalibrationResolver",
+                                                        sensorCalibrationResolverProvider);
+    registerType<SensorCalibration>("SensorCalibration");
     qmlRegisterUncreatableType<MceButtonBacklight>(Uri, Major, Minor, "MceButtonBacklight",
                                                    QStringLiteral("MceButtonBacklight class exists for enums only"));
 }
