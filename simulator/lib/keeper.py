@@ -74,24 +74,23 @@ class Keeper:
         return True
 
     def run(self, command):
+        # Before the command can have told anybody that it runs.
+        for number in signal.SIGHUP, signal.SIGINT, signal.SIGTERM, signal.SIGUSR1, signal.SIGUSR2:
+            GLib.unix_signal_add(GLib.PRIORITY_HIGH, number, self.forward, number)
         uid = self.settings['uid']
         identity = {} if uid is None else {'user': uid, 'group': uid, 'extra_groups': []}
         try:
-            process = subprocess.Popen(command, env=self.phone.environment, **identity)
+            self.process = subprocess.Popen(command, env=self.phone.environment, **identity)
         except OSError as error:
             print('start: %s: %s' % (command[0], error.strerror), file=sys.stderr)
             return 127 if isinstance(error, FileNotFoundError) else 126
-        for number in signal.SIGHUP, signal.SIGINT, signal.SIGTERM, signal.SIGUSR1, signal.SIGUSR2:
-            GLib.unix_signal_add(GLib.PRIORITY_HIGH, number, self.forward, (process.pid, number))
-        GLib.child_watch_add(GLib.PRIORITY_DEFAULT, process.pid, self.on_ended)
+        GLib.child_watch_add(GLib.PRIORITY_DEFAULT, self.process.pid, self.on_ended)
         self.loop.run()
         return self.status
 
-    @staticmethod
-    def forward(to):
-        pid, number = to
+    def forward(self, number):
         try:
-            os.kill(pid, number)
+            os.kill(self.process.pid, number)
         except ProcessLookupError:
             pass
         return True
