@@ -69,9 +69,7 @@ PartitionManager::PartitionManager(QObject *parent) : QObject(parent), m_bus(QDB
             });
 
     const QDBusMessage reply = m_bus.call(objectsCall(Service), QDBus::Block, FirstListTimeout.count());
-    if (reply.type() == QDBusMessage::ReplyMessage)
-        takeObjects(reply);
-    else
+    if (!takeObjects(reply))
         queryObjects(Service); // it may be merely slow
 }
 
@@ -124,19 +122,22 @@ void PartitionManager::queryObjects(const QString &destination)
     connect(m_objectsQuery, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *watcher) {
         watcher->deleteLater();
         m_objectsQuery = nullptr;
-        if (!watcher->isError())
-            takeObjects(watcher->reply());
+        takeObjects(watcher->reply());
     });
 }
 
-void PartitionManager::takeObjects(const QDBusMessage &reply)
+// False when it was not the daemon that replied. Where it refuses the list, what it tells later counts nevertheless.
+bool PartitionManager::takeObjects(const QDBusMessage &reply)
 {
+    if (!reply.service().startsWith(QLatin1Char(':')))
+        return false;
     m_owner = reply.service();
-    if (hasSignature(reply, "a{oa{sa{sv}}}"))
+    if (reply.type() == QDBusMessage::ReplyMessage && hasSignature(reply, "a{oa{sa{sv}}}"))
         m_objects.reset(argument(reply, 0));
     else
         m_objects.clear();
     refresh();
+    return true;
 }
 
 void PartitionManager::queryProperties(const QString &path, const QString &interface)

@@ -67,7 +67,7 @@ private:
 
     void onOwnerChanged(const QString &oldOwner, const QString &newOwner);
     void queryObjects(const QString &destination);
-    void takeObjects(const QDBusMessage &reply);
+    bool takeObjects(const QDBusMessage &reply);
     void queryProperties(const QString &path, const QString &interface);
     void forgetDaemon();
     bool isFromDaemon(const QDBusMessage &message, const char *signature) const;
