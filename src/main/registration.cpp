@@ -1,23 +1,31 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "registration.h"
 
+#include "audioroute.h"
 #include "battery.h"
+#include "calibrationtest.h"
 #include "factoryutils.h"
+#include "features.h"
 #include "gps.h"
 #include "halldetect.h"
 #include "headsetdetect.h"
+#include "hwsettings.h"
 #include "kivutils.h"
+#include "macvalidator.h"
 #include "mce.h"
 #include "mcebuttonbacklight.h"
+#include "pacmd.h"
 #include "processes.h"
+#include "pulseaudio.h"
 #include "radiopreference.h"
-#include "uptime.h"
-#include "usbotg.h"
-#include "zel.h"
+#include "recorder.h"
 #include "sdcardtest.h"
 #include "sensorcalibration.h"
 #include "sensorcalibrationresolver.h"
 #include "touch.h"
+#include "uptime.h"
+#include "usbotg.h"
+#include "zel.h"
 
 #include <QtQml>
 
@@ -33,10 +41,26 @@ void registerType(const char *name)
     qmlRegisterType<Type>(Uri, Major, Minor, name);
 }
 
-// The engine calls a provider once and owns what it returns.
+/*! The engine calls the provider once and owns what it returns. */
+template<typename Type>
+void registerSingleton(const char *name, QObject *(*provider)(QQmlEngine *, QJSEngine *))
+{
+    qmlRegisterSingletonType<Type>(Uri, Major, Minor, name, provider);
+}
+
 QObject *factoryUtilsProvider(QQmlEngine *, QJSEngine *)
 {
     return new FactoryUtils(nullptr);
+}
+
+QObject *featuresProvider(QQmlEngine *, QJSEngine *)
+{
+    return new Features();
+}
+
+QObject *hwSettingsProvider(QQmlEngine *, QJSEngine *)
+{
+    return new HwSettings(nullptr);
 }
 
 QObject *sensorCalibrationResolverProvider(QQmlEngine *, QJSEngine *)
@@ -45,16 +69,13 @@ QObject *sensorCalibrationResolverProvider(QQmlEngine *, QJSEngine *)
 }
 }
 
-// The order of the rows fixes the type ids. A class that is not built yet has no row:
-//  1 HeadsetDetect   2 HallDetect   3 Recorder          4 PaCmd             5 Battery      6 GyroSensor
-//  7 Touch           8 SdCardTest   9 RadioPreference  10 Uptime           11 Zel         12 UsbOtg
-// 13 Gps            14 KivUtils    15 Processes        16 Mce              17 PulseAudio  18 CalibrationTest
-// 19 MacValidator   20 AudioRoute  21 FactoryUtils     22 Features         23 KivHwSettings
-// 24 SensorCalibrationResolver     25 SensorCalibration                    26 MceButtonBacklight
+// The order of the rows fixes the type ids.
 void registerKivTypes()
 {
     registerType<HeadsetDetect>("HeadsetDetect");
     registerType<HallDetect>("HallDetect");
+    registerType<Recorder>("Recorder");
+    registerType<PaCmd>("PaCmd");
     registerType<Battery>("Battery");
     registerType<Touch>("Touch");
     registerType<SdCardTest>("SdCardTest");
@@ -66,9 +87,14 @@ void registerKivTypes()
     registerType<KivUtils>("KivUtils");
     registerType<Processes>("Processes");
     registerType<Mce>("Mce");
-    qmlRegisterSingletonType<FactoryUtils>(Uri, Major, Minor, "FactoryUtils", factoryUtilsProvider);
-    qmlRegisterSingletonType<SensorCalibrationResolver>(Uri, Major, Minor, "SensorCalibrationResolver",
-                                                        sensorCalibrationResolverProvider);
+    registerType<PulseAudio>("PulseAudio");
+    registerType<CalibrationTest>("CalibrationTest");
+    registerType<MacValidator>("MacValidator");
+    registerType<AudioRoute>("AudioRoute");
+    registerSingleton<FactoryUtils>("FactoryUtils", factoryUtilsProvider);
+    registerSingleton<Features>("Features", featuresProvider);
+    registerSingleton<HwSettings>("KivHwSettings", hwSettingsProvider);
+    registerSingleton<SensorCalibrationResolver>("SensorCalibrationResolver", sensorCalibrationResolverProvider);
     registerType<SensorCalibration>("SensorCalibration");
     qmlRegisterUncreatableType<MceButtonBacklight>(Uri, Major, Minor, "MceButtonBacklight",
                                                    QStringLiteral("MceButtonBacklight class exists for enums only"));
