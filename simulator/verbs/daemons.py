@@ -24,7 +24,8 @@ def thaw(phone, name):
 
 COMMANDS = [
     Command('daemon', '', 'show the daemons', show),
-    Command('daemon start', 'NAME', 'start a daemon in its first state', lambda phone, name: phone.daemon(name).start()),
+    Command('daemon start', 'NAME', 'start a daemon in its first state',
+            lambda phone, name: phone.daemon(name).start()),
     Command('daemon stop', 'NAME', 'end it in an orderly way',
             lambda phone, name: phone.daemon(name).end(signal.SIGTERM)),
     Command('daemon kill', 'NAME', 'let it crash', lambda phone, name: phone.daemon(name).end(signal.SIGKILL)),
