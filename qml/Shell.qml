@@ -27,10 +27,14 @@ Item {
     function show(name) {
         if (working.item)
             working.item.cancel();
-        // The old screen is deleted later; what its page changed is put back before the new one looks.
+        leaveScreen();
+        screens.setSource("screens/" + name + ".qml", { "shell": shell });
+    }
+
+    /*! The old screen is deleted later; what its page changed is put back at once. */
+    function leaveScreen() {
         if (screens.item && screens.item.leave)
             screens.item.leave();
-        screens.setSource("screens/" + name + ".qml", { "shell": shell });
     }
 
     /*! Runs a job that blocks, after a screen that says so has been drawn. */
@@ -44,7 +48,7 @@ Item {
     }
 
     function chooseSequence(mode) {
-        //% "Looking at what this phone has"
+        //% "Checking what this phone has"
         blocking(qsTrId("kiv-working-probing"), function() {
             flow.choose(mode, shell.features());
             shell.show("ListScreen");
@@ -64,7 +68,20 @@ Item {
     }
 
     function showTest() {
-        show(flow.current ? "TestScreen" : single ? "ListScreen" : "SummaryScreen");
+        if (flow.current)
+            show("TestScreen");
+        else if (single)
+            showList();
+        else
+            show("SummaryScreen");
+    }
+
+    function showList() {
+        // A test that was the first thing on the screen belongs to no sequence yet.
+        if (flow.mode < 0)
+            chooseSequence(TestTable.AllTests);
+        else
+            show("ListScreen");
     }
 
     function nextTest() {
@@ -74,8 +91,9 @@ Item {
 
     /*! Leaves the present test without a verdict. */
     function leaveTest() {
+        leaveScreen();
         flow.start([]);
-        show("ListScreen");
+        showList();
     }
 
     function nextUnit() {

@@ -5,1127 +5,1186 @@
     <name></name>
     <message id="kiv-back">
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message id="kiv-reading-missing">
         <source>no reading</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Messwert</translation>
     </message>
     <message id="kiv-limits-range">
         <source>%1 to %2 %3</source>
         <extracomment>Limits of a reading: the lowest, the highest, the unit</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2 %3</translation>
     </message>
     <message id="kiv-limits-minimum">
         <source>at least %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>mindestens %1 %2</translation>
     </message>
     <message id="kiv-limits-maximum">
         <source>at most %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>höchstens %1 %2</translation>
     </message>
     <message id="kiv-reading-pass">
         <source>in order</source>
-        <translation type="unfinished"></translation>
+        <translation>in Ordnung</translation>
     </message>
     <message id="kiv-reading-near">
         <source>close to the limit</source>
-        <translation type="unfinished"></translation>
+        <translation>nahe an der Grenze</translation>
     </message>
     <message id="kiv-reading-fail">
         <source>out of limits</source>
-        <translation type="unfinished"></translation>
+        <translation>außerhalb der Grenzen</translation>
     </message>
     <message id="kiv-yes">
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
     <message id="kiv-no">
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>nein</translation>
     </message>
     <message id="kiv-verdict-passed">
         <source>Passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestanden</translation>
     </message>
     <message id="kiv-verdict-failed">
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht bestanden</translation>
     </message>
     <message id="kiv-verdict-not-applicable">
         <source>Not applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfällt</translation>
     </message>
     <message id="kiv-verdict-not-tested">
         <source>Not tested</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht geprüft</translation>
     </message>
     <message id="kiv-test-touch-self">
         <source>Touch panel self-test</source>
-        <translation type="unfinished"></translation>
+        <translation>Selbsttest des Touchscreens</translation>
     </message>
     <message id="kiv-test-touch">
         <source>Touch panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Touchscreen</translation>
     </message>
     <message id="kiv-test-multi-touch">
         <source>Several fingers</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Finger</translation>
     </message>
     <message id="kiv-test-lcd">
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm</translation>
     </message>
     <message id="kiv-test-lcd-backlight">
         <source>Display backlight</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmbeleuchtung</translation>
     </message>
     <message id="kiv-test-light">
         <source>Light sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Lichtsensor</translation>
     </message>
     <message id="kiv-test-prox">
         <source>Proximity sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Näherungssensor</translation>
     </message>
     <message id="kiv-test-gyro">
         <source>Gyroscope and accelerometer</source>
-        <translation type="unfinished"></translation>
+        <translation>Gyroskop und G‑Sensor</translation>
     </message>
     <message id="kiv-test-ecompass">
         <source>Compass</source>
-        <translation type="unfinished"></translation>
+        <translation>Kompass</translation>
     </message>
     <message id="kiv-test-hall">
         <source>Cover magnet switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnetschalter der Hülle</translation>
     </message>
     <message id="kiv-test-fingerprint">
         <source>Fingerprint reader</source>
-        <translation type="unfinished"></translation>
+        <translation>Fingerabdruckleser</translation>
     </message>
     <message id="kiv-test-mic-1">
         <source>Microphone 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrofon 1</translation>
     </message>
     <message id="kiv-test-mic-2">
         <source>Microphone 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrofon 2</translation>
     </message>
     <message id="kiv-test-speaker-music">
         <source>Loudspeaker music</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautsprecher: Musik</translation>
     </message>
     <message id="kiv-test-speaker-stereo">
         <source>Loudspeaker left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautsprecher: links und rechts</translation>
     </message>
     <message id="kiv-test-receiver">
         <source>Earpiece</source>
-        <translation type="unfinished"></translation>
+        <translation>Hörmuschel</translation>
     </message>
     <message id="kiv-test-headset-buttons">
         <source>Headset buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Headset-Tasten</translation>
     </message>
     <message id="kiv-test-headset">
         <source>Headset socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Headset-Buchse</translation>
     </message>
     <message id="kiv-test-headset-music">
         <source>Headset music</source>
-        <translation type="unfinished"></translation>
+        <translation>Headset: Musik</translation>
     </message>
     <message id="kiv-test-front-camera">
         <source>Front camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Frontkamera</translation>
     </message>
     <message id="kiv-test-back-camera">
         <source>Back camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückkamera</translation>
     </message>
     <message id="kiv-test-wifi">
         <source>Wi-Fi</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN</translation>
     </message>
     <message id="kiv-test-bluetooth">
         <source>Bluetooth</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth</translation>
     </message>
     <message id="kiv-test-zel">
         <source>Smart cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Intelligente Hülle</translation>
     </message>
     <message id="kiv-test-gps">
         <source>Satellite positioning</source>
-        <translation type="unfinished"></translation>
+        <translation>Satellitenortung</translation>
     </message>
     <message id="kiv-test-fm-radio">
         <source>FM radio</source>
-        <translation type="unfinished"></translation>
+        <translation>UKW-Radio</translation>
     </message>
     <message id="kiv-test-battery">
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku</translation>
     </message>
     <message id="kiv-test-usb-charging">
         <source>USB charging</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden über USB</translation>
     </message>
     <message id="kiv-test-led">
         <source>Notification light</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachrichtigungsleuchte</translation>
     </message>
     <message id="kiv-test-button-backlight">
         <source>Key illumination</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenbeleuchtung</translation>
     </message>
     <message id="kiv-test-vibrator">
         <source>Vibrator</source>
-        <translation type="unfinished"></translation>
+        <translation>Vibrationsmotor</translation>
     </message>
     <message id="kiv-test-sim">
         <source>SIM card</source>
-        <translation type="unfinished"></translation>
+        <translation>SIM-Karte</translation>
     </message>
     <message id="kiv-test-sd-card">
         <source>Memory card</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherkarte</translation>
     </message>
     <message id="kiv-test-key">
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten</translation>
     </message>
     <message id="kiv-test-usb-otg">
         <source>USB host</source>
-        <translation type="unfinished"></translation>
+        <translation>USB-Host</translation>
     </message>
     <message id="kiv-test-video">
         <source>Video playback</source>
-        <translation type="unfinished"></translation>
+        <translation>Videowiedergabe</translation>
     </message>
     <message id="kiv-test-battery-resistance">
         <source>Battery resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Innenwiderstand des Akkus</translation>
     </message>
     <message id="kiv-test-suspend">
         <source>Suspend</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruhezustand</translation>
     </message>
     <message id="kiv-test-reboot">
         <source>Restart</source>
-        <translation type="unfinished"></translation>
+        <translation>Neustart</translation>
     </message>
     <message id="kiv-test-cellular-voice">
         <source>Phone call</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefongespräch</translation>
     </message>
     <message id="kiv-test-cellular-data">
         <source>Mobile data</source>
-        <translation type="unfinished"></translation>
+        <translation>Mobile Daten</translation>
     </message>
     <message id="kiv-test-mac-addresses">
         <source>Network addresses</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkadressen</translation>
     </message>
     <message id="kiv-test-calibration">
         <source>Calibration record</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibrierprotokoll</translation>
     </message>
     <message id="kiv-test-sensor-calibration">
         <source>Sensor calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>Sensoren kalibrieren</translation>
     </message>
     <message id="kiv-test-system">
         <source>System state</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemzustand</translation>
     </message>
     <message id="kiv-reason-reading">
         <source>%1: %2 (%3)</source>
         <extracomment>A reading that is not as it should be: its name, its value, what is wrong with it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message id="kiv-battery-instructions">
         <source>Nothing to do: the phone reads its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts zu tun: Das Telefon liest seinen Akku aus.</translation>
     </message>
     <message id="kiv-battery-hint">
         <source>Pass unlocks when the battery has been read.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis der Akku ausgelesen ist.</translation>
     </message>
     <message id="kiv-battery-good">
         <source>Every reading with a limit is within it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Messwert mit Grenzen liegt innerhalb.</translation>
     </message>
     <message id="kiv-battery-present">
         <source>Battery in place</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku eingelegt</translation>
     </message>
     <message id="kiv-battery-status">
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message id="kiv-battery-health">
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesundheit</translation>
     </message>
     <message id="kiv-battery-voltage">
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>Spannung</translation>
     </message>
     <message id="kiv-battery-current">
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom</translation>
     </message>
     <message id="kiv-battery-temperature">
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur</translation>
     </message>
     <message id="kiv-battery-energy">
         <source>Energy left</source>
-        <translation type="unfinished"></translation>
+        <translation>Restenergie</translation>
     </message>
     <message id="kiv-battery-wear">
-        <source>Capacity of its design</source>
-        <translation type="unfinished"></translation>
+        <source>Capacity compared to new</source>
+        <oldsource>Capacity of its design</oldsource>
+        <translation>Kapazität im Vergleich zu neu</translation>
     </message>
     <message id="kiv-disclaimer-title">
         <source>Before you begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevor Sie beginnen</translation>
     </message>
     <message id="kiv-quit">
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message id="kiv-disclaimer-accept">
         <source>I have read this</source>
-        <translation type="unfinished"></translation>
+        <translation>Ich habe das gelesen</translation>
     </message>
     <message id="kiv-ap-name">
         <source>Kiv</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiv</translation>
     </message>
     <message id="kiv-home-subtitle">
         <source>Hardware tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Hardwaretests</translation>
     </message>
     <message id="kiv-home-settings">
         <source>This phone and settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Telefon und Einstellungen</translation>
     </message>
     <message id="kiv-home-question">
-        <source>Which tests shall run?</source>
-        <translation type="unfinished"></translation>
+        <source>Which tests do you want to run?</source>
+        <oldsource>Which tests shall run?</oldsource>
+        <translation>Welche Tests möchten Sie ausführen?</translation>
     </message>
     <message id="kiv-mode-factory">
         <source>Factory sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Werksprüfung</translation>
     </message>
     <message id="kiv-mode-factory-detail">
         <source>Every part of the phone once, in a fixed order</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Teil des Telefons einmal, in fester Reihenfolge</translation>
     </message>
     <message id="kiv-mode-run-in">
         <source>Run-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauerlauf</translation>
     </message>
     <message id="kiv-mode-run-in-detail">
-        <source>The tests that warm a new phone up</source>
-        <translation type="unfinished"></translation>
+        <source>Endurance tests for a new phone</source>
+        <oldsource>The tests that warm a new phone up</oldsource>
+        <translation>Belastungstests für ein neues Telefon</translation>
     </message>
     <message id="kiv-mode-all">
         <source>All tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Tests</translation>
     </message>
     <message id="kiv-mode-all-detail">
-        <source>Everything that this phone has, singly or in a row</source>
-        <translation type="unfinished"></translation>
+        <source>Everything this phone has, one by one or in a row</source>
+        <oldsource>Everything that this phone has, singly or in a row</oldsource>
+        <translation>Alles, was dieses Telefon hat, einzeln oder nacheinander</translation>
     </message>
     <message id="kiv-list-subtitle">
         <source>%1 of %2 tests can run here</source>
         <extracomment>How many of the tests of the sequence can be run on this phone</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Tests sind hier möglich</translation>
     </message>
     <message id="kiv-list-absent">
         <source>Not on this phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht in diesem Telefon</translation>
     </message>
     <message id="kiv-list-unwritten">
         <source>Not available yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht verfügbar</translation>
     </message>
     <message id="kiv-summary">
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message id="kiv-list-continue">
         <source>Go on, %1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter, noch %1</translation>
     </message>
     <message id="kiv-list-start">
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message id="kiv-settings-4g">
         <source>Modem prefers 4G</source>
-        <translation type="unfinished"></translation>
+        <translation>Modem bevorzugt 4G</translation>
     </message>
     <message id="kiv-settings-title">
         <source>This phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Telefon</translation>
     </message>
     <message id="kiv-settings-light">
         <source>Light colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Helle Farben</translation>
     </message>
     <message id="kiv-settings-dark">
         <source>Dark colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkle Farben</translation>
     </message>
     <message id="kiv-settings-disclaimer">
         <source>Read the notice again</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis noch einmal lesen</translation>
     </message>
     <message id="kiv-summary-overruled">
         <source>Overruled by the operator; measured: %1</source>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vom Prüfer überstimmt; gemessen: %1</translation>
     </message>
     <message id="kiv-summary-attempts">
         <source>Attempts: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versuche: %1</translation>
     </message>
     <message id="kiv-summary-incomplete">
         <source>Not complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Unvollständig</translation>
     </message>
     <message id="kiv-summary-retest">
-        <source>Retest the failed</source>
-        <translation type="unfinished"></translation>
+        <source>Retest failed</source>
+        <oldsource>Retest the failed</oldsource>
+        <translation>Fehler erneut prüfen</translation>
     </message>
     <message id="kiv-summary-list">
         <source>Back to the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zur Liste</translation>
     </message>
     <message id="kiv-summary-next">
         <source>Next phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Telefon</translation>
     </message>
     <message id="kiv-page-broken">
         <source>This test cannot be opened on this phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Test lässt sich auf diesem Telefon nicht öffnen.</translation>
     </message>
     <message id="kiv-test-leave">
         <source>Leave this test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test verlassen</translation>
     </message>
     <message id="kiv-test-progress">
         <source>%1 of %2, about %3 min left</source>
         <extracomment>Place in the sequence and the time it still takes</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2, noch etwa %3 min</translation>
     </message>
     <message id="kiv-test-retry">
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch einmal</translation>
     </message>
     <message id="kiv-page-missing-advice">
         <source>If the phone is meant to be without it, choose Not applicable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn das Telefon so gebaut ist, wählen Sie „Entfällt“.</translation>
     </message>
     <message id="kiv-page-guided">
         <source>You judge this one: the phone cannot see the result itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier urteilen Sie: Das Telefon kann das Ergebnis nicht selbst sehen.</translation>
     </message>
     <message id="kiv-verdict-fail">
         <source>Fail</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message id="kiv-verdict-pass">
         <source>Pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestanden</translation>
     </message>
     <message id="kiv-verdict-hold">
-        <source>Hold Pass until it fills</source>
-        <translation type="unfinished"></translation>
+        <source>Hold Pass until it has filled up</source>
+        <oldsource>Hold Pass until it fills</oldsource>
+        <translation>„Bestanden“ gedrückt halten, bis es voll ist</translation>
     </message>
     <message id="kiv-working-probing">
-        <source>Looking at what this phone has</source>
-        <translation type="unfinished"></translation>
+        <source>Checking what this phone has</source>
+        <oldsource>Looking at what this phone has</oldsource>
+        <translation>Es wird geprüft, was dieses Telefon hat</translation>
     </message>
     <message id="kiv-step-done">
         <source>done</source>
-        <translation type="unfinished"></translation>
+        <translation>erledigt</translation>
     </message>
     <message id="kiv-calibration-instructions">
         <source>The calibration record that production wrote is compared with what is asked of this product.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kalibrierprotokoll aus der Fertigung wird mit den Vorgaben für dieses Modell verglichen.</translation>
     </message>
     <message id="kiv-calibration-hint">
         <source>Pass unlocks when the record has been read.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis das Protokoll gelesen ist.</translation>
     </message>
     <message id="kiv-calibration-any">
         <source>must not be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>darf nicht leer sein</translation>
     </message>
     <message id="kiv-mac-criteria">
         <source>must match %1</source>
         <extracomment>A pattern that an address has to match</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>muss auf %1 passen</translation>
     </message>
     <message id="kiv-calibration-good">
         <source>The record is as it must be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokoll ist so, wie es sein muss.</translation>
     </message>
     <message id="kiv-calibration-flag">
         <source>Calibration flag</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibriermerker</translation>
     </message>
     <message id="kiv-calibration-text">
         <source>Calibration text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibriertext</translation>
     </message>
     <message id="kiv-mac-instructions">
         <source>The addresses that production gave to the radios are compared with what is asked of this product.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adressen, die die Fertigung vergeben hat, werden mit den Vorgaben für dieses Modell verglichen.</translation>
     </message>
     <message id="kiv-mac-hint">
         <source>Pass unlocks when the addresses have been read.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis die Adressen gelesen sind.</translation>
     </message>
     <message id="kiv-mac-missing">
         <source>This phone has neither Bluetooth nor Wi-Fi.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Telefon hat weder Bluetooth noch WLAN.</translation>
     </message>
     <message id="kiv-mac-good">
         <source>Every address matches its pattern.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Adresse passt auf ihr Muster.</translation>
     </message>
     <message id="kiv-mac-bluetooth">
         <source>Bluetooth address</source>
-        <translation type="unfinished"></translation>
+        <translation>Bluetooth-Adresse</translation>
     </message>
     <message id="kiv-mac-wireless">
         <source>Wi-Fi address</source>
-        <translation type="unfinished"></translation>
+        <translation>WLAN-Adresse</translation>
     </message>
     <message id="kiv-sensor-accelerometer">
         <source>Accelerometer</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigungssensor</translation>
     </message>
     <message id="kiv-sensor-als">
         <source>Ambient light</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgebungslicht</translation>
     </message>
     <message id="kiv-sensor-compass">
         <source>Compass</source>
-        <translation type="unfinished"></translation>
+        <translation>Kompass</translation>
     </message>
     <message id="kiv-sensor-gyroscope">
         <source>Gyroscope</source>
-        <translation type="unfinished"></translation>
+        <translation>Gyroskop</translation>
     </message>
     <message id="kiv-sensor-humidity">
         <source>Humidity</source>
-        <translation type="unfinished"></translation>
+        <translation>Luftfeuchtigkeit</translation>
     </message>
     <message id="kiv-sensor-lid">
         <source>Lid</source>
-        <translation type="unfinished"></translation>
+        <translation>Klappe</translation>
     </message>
     <message id="kiv-sensor-magnetometer">
         <source>Magnetometer</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnetometer</translation>
     </message>
     <message id="kiv-sensor-orientation">
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Lage</translation>
     </message>
     <message id="kiv-sensor-pressure">
         <source>Air pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>Luftdruck</translation>
     </message>
     <message id="kiv-sensor-proximity">
         <source>Proximity</source>
-        <translation type="unfinished"></translation>
+        <translation>Näherung</translation>
     </message>
     <message id="kiv-sensor-rotation">
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message id="kiv-sensor-stepcounter">
         <source>Step counter</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrittzähler</translation>
     </message>
     <message id="kiv-sensor-tap">
         <source>Tap</source>
-        <translation type="unfinished"></translation>
+        <translation>Klopfen</translation>
     </message>
     <message id="kiv-sensor-temperature">
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur</translation>
     </message>
     <message id="kiv-sensor-instructions">
         <source>Calibrate a sensor, take back its last calibration, or return to the factory&apos;s. Then judge by its values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibrieren Sie einen Sensor, nehmen Sie seine letzte Kalibrierung zurück oder stellen Sie die Werkswerte her. Urteilen Sie dann nach seinen Werten.</translation>
     </message>
     <message id="kiv-sensor-hint">
         <source>Pass unlocks when a sensor has been calibrated.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis ein Sensor kalibriert ist.</translation>
     </message>
     <message id="kiv-sensor-working">
         <source>Asking the sensors for their calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Sensoren werden nach ihrer Kalibrierung gefragt</translation>
     </message>
     <message id="kiv-sensor-missing">
         <source>No sensor of this phone can be calibrated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Sensor dieses Telefons lässt sich kalibrieren.</translation>
     </message>
     <message id="kiv-sensor-running">
         <source>Calibrating: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibrierung läuft: %1</translation>
     </message>
     <message id="kiv-sensor-done">
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message id="kiv-sensor-failed">
         <source>The calibration helper failed. It is not asked again until this page is opened anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kalibrierprogramm ist gescheitert. Es wird erst wieder gefragt, wenn diese Seite neu geöffnet wird.</translation>
     </message>
     <message id="kiv-sensor-calibrate">
         <source>Calibrate</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibrieren</translation>
     </message>
     <message id="kiv-sensor-restore">
         <source>Take back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücknehmen</translation>
     </message>
     <message id="kiv-sensor-reset">
         <source>Factory values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkswerte</translation>
     </message>
     <message id="kiv-sensor-type">
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message id="kiv-sensor-representation">
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte</translation>
     </message>
     <message id="kiv-system-instructions">
         <source>What the system is busy with. The list of processes appears after five seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit das System beschäftigt ist. Die Liste der Prozesse erscheint nach fünf Sekunden.</translation>
     </message>
     <message id="kiv-system-start">
         <source>Running since</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft seit</translation>
     </message>
     <message id="kiv-system-load-1">
         <source>Load, 1 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>Last, 1 Minute</translation>
     </message>
     <message id="kiv-system-load-5">
         <source>Load, 5 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Last, 5 Minuten</translation>
     </message>
     <message id="kiv-system-load-15">
         <source>Load, 15 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Last, 15 Minuten</translation>
     </message>
     <message id="kiv-system-process">
         <source>%1 (%2)</source>
         <extracomment>A process: its name and its number</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message id="kiv-touch-self-instructions">
         <source>The touch controller tests itself. Keep fingers off the panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Touchscreen prüft sich selbst. Berühren Sie ihn nicht.</translation>
     </message>
     <message id="kiv-touch-self-hint">
         <source>Pass unlocks when the controller has answered.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis der Touchscreen geantwortet hat.</translation>
     </message>
     <message id="kiv-touch-self-missing">
         <source>The touch controller of this phone has no self-test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Touchscreen dieses Telefons hat keinen Selbsttest.</translation>
     </message>
     <message id="kiv-touch-self-good">
         <source>The controller reports that it is in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Touchscreen meldet, dass er in Ordnung ist.</translation>
     </message>
     <message id="kiv-touch-self-bad">
         <source>The controller reports a fault or gives no report.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Touchscreen meldet einen Fehler oder gar nichts.</translation>
     </message>
     <message id="kiv-touch-self-outcome">
         <source>Self-test in order</source>
-        <translation type="unfinished"></translation>
+        <translation>Selbsttest in Ordnung</translation>
     </message>
     <message id="kiv-battery-missing">
-        <source>This phone shows no battery to the system.</source>
-        <translation type="unfinished"></translation>
+        <source>No battery was found.</source>
+        <oldsource>This phone shows no battery to the system.</oldsource>
+        <translation>Es wurde kein Akku gefunden.</translation>
     </message>
     <message id="kiv-ecompass-good">
         <source>The compass followed a whole turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kompass ist einer ganzen Drehung gefolgt.</translation>
     </message>
     <message id="kiv-ecompass-instructions">
         <source>Keep the phone level and turn around once. If it sticks, draw a large eight in the air with the phone first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Halten Sie das Telefon waagerecht und drehen Sie sich einmal um sich selbst. Wenn der Kompass hängt, zeichnen Sie mit dem Telefon zuerst eine große Acht in die Luft.</translation>
     </message>
     <message id="kiv-ecompass-hint">
         <source>Pass unlocks when the compass followed a whole turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis der Kompass einer ganzen Drehung gefolgt ist.</translation>
     </message>
     <message id="kiv-ecompass-missing">
-        <source>This phone shows no compass to the system.</source>
-        <translation type="unfinished"></translation>
+        <source>No compass was found.</source>
+        <oldsource>This phone shows no compass to the system.</oldsource>
+        <translation>Es wurde kein Kompass gefunden.</translation>
     </message>
     <message id="kiv-ecompass-heading">
         <source>Heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung</translation>
     </message>
     <message id="kiv-ecompass-directions">
         <source>Directions seen</source>
-        <translation type="unfinished"></translation>
+        <translation>Erkannte Richtungen</translation>
     </message>
     <message id="kiv-ecompass-level">
         <source>Calibration level</source>
-        <translation type="unfinished"></translation>
+        <translation>Güte der Kalibrierung</translation>
     </message>
     <message id="kiv-gyro-good">
         <source>Averages of 32 samples are within their limits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Mittelwerte aus 32 Messungen liegen innerhalb der Grenzen.</translation>
     </message>
     <message id="kiv-gyro-instructions">
         <source>Lay the phone flat on a table, the display up, and do not touch the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie das Telefon mit dem Bildschirm nach oben flach auf einen Tisch und berühren Sie den Tisch nicht.</translation>
     </message>
     <message id="kiv-gyro-hint">
         <source>Pass unlocks when the sensors have been measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis die Sensoren gemessen sind.</translation>
     </message>
     <message id="kiv-gyro-missing">
         <source>This phone has neither an accelerometer nor a gyroscope.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Telefon hat weder einen Beschleunigungssensor noch ein Gyroskop.</translation>
     </message>
     <message id="kiv-gyro-measure">
         <source>It lies flat: measure now</source>
-        <translation type="unfinished"></translation>
+        <translation>Es liegt flach: jetzt messen</translation>
     </message>
     <message id="kiv-gyro-progress">
         <source>Measuring: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Messung: %1 von %2</translation>
     </message>
     <message id="kiv-gyro-acceleration-x">
         <source>Acceleration X</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung X</translation>
     </message>
     <message id="kiv-gyro-acceleration-y">
         <source>Acceleration Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung Y</translation>
     </message>
     <message id="kiv-gyro-acceleration-z">
         <source>Acceleration Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschleunigung Z</translation>
     </message>
     <message id="kiv-gyro-rotation-x">
         <source>Rotation X</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung X</translation>
     </message>
     <message id="kiv-gyro-rotation-y">
         <source>Rotation Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung Y</translation>
     </message>
     <message id="kiv-gyro-rotation-z">
         <source>Rotation Z</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung Z</translation>
     </message>
     <message id="kiv-gyro-rotation">
         <source>Gyroscope in order</source>
-        <translation type="unfinished"></translation>
+        <translation>Gyroskop in Ordnung</translation>
     </message>
     <message id="kiv-hall-good">
         <source>The switch saw the magnet come and go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schalter hat den Magneten kommen und gehen sehen.</translation>
     </message>
     <message id="kiv-hall-hint">
         <source>Pass unlocks when the magnet was seen to come and go.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis der Magnet kam und ging.</translation>
     </message>
     <message id="kiv-hall-missing">
         <source>This phone has no magnet switch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Telefon hat keinen Magnetschalter.</translation>
     </message>
     <message id="kiv-hall-step-close">
         <source>Hold a magnet or a closed cover to the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Magneten oder eine geschlossene Hülle ans Telefon halten</translation>
     </message>
     <message id="kiv-hall-step-open">
         <source>Take it away</source>
-        <translation type="unfinished"></translation>
+        <translation>Wieder wegnehmen</translation>
     </message>
     <message id="kiv-hall-magnet">
         <source>Magnet at the switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnet am Schalter</translation>
     </message>
     <message id="kiv-headset-headset">
         <source>Headset</source>
-        <translation type="unfinished"></translation>
+        <translation>Headset</translation>
     </message>
     <message id="kiv-headset-headphones">
         <source>Headphones without microphone</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopfhörer ohne Mikrofon</translation>
     </message>
     <message id="kiv-headset-microphone">
         <source>Microphone only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Mikrofon</translation>
     </message>
     <message id="kiv-headset-empty">
         <source>Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer</translation>
     </message>
     <message id="kiv-headset-good">
         <source>The socket was seen empty and with a headset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Buchse wurde leer und mit Headset erkannt.</translation>
     </message>
     <message id="kiv-headset-hint">
         <source>Pass unlocks when the socket was seen empty and with a headset.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis die Buchse leer und mit Headset erkannt wurde.</translation>
     </message>
     <message id="kiv-headset-missing">
-        <source>This phone shows no headset socket to the system.</source>
-        <translation type="unfinished"></translation>
+        <source>No headset socket was found.</source>
+        <oldsource>This phone shows no headset socket to the system.</oldsource>
+        <translation>Es wurde keine Headset-Buchse gefunden.</translation>
     </message>
     <message id="kiv-headset-step-empty">
         <source>Take everything out of the headset socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles aus der Headset-Buchse ziehen</translation>
     </message>
     <message id="kiv-headset-step-plug">
         <source>Plug a headset with a microphone in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Headset mit Mikrofon einstecken</translation>
     </message>
     <message id="kiv-headset-socket">
         <source>Headset socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Headset-Buchse</translation>
     </message>
     <message id="kiv-headset-buttons-media">
         <source>Media</source>
         <extracomment>A key of a headset</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Medien</translation>
     </message>
     <message id="kiv-headset-buttons-play">
         <source>Play/Pause</source>
         <extracomment>A key of a headset</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabe/Pause</translation>
     </message>
     <message id="kiv-headset-buttons-good">
         <source>Every button that the phone knows was pressed and let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Taste, die das Telefon kennt, wurde gedrückt und losgelassen.</translation>
     </message>
     <message id="kiv-headset-buttons-instructions">
         <source>Plug the headset in and press each of its buttons once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stecken Sie das Headset ein und drücken Sie jede seiner Tasten einmal.</translation>
     </message>
     <message id="kiv-headset-buttons-hint">
         <source>Pass unlocks when a button was pressed and let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis eine Taste gedrückt und losgelassen wurde.</translation>
     </message>
     <message id="kiv-headset-buttons-missing">
-        <source>This phone shows no headset buttons to the system.</source>
-        <translation type="unfinished"></translation>
+        <source>No headset buttons were found.</source>
+        <oldsource>This phone shows no headset buttons to the system.</oldsource>
+        <translation>Es wurden keine Headset-Tasten gefunden.</translation>
     </message>
     <message id="kiv-headset-buttons-pressed">
         <source>Buttons pressed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedrückte Tasten</translation>
     </message>
     <message id="kiv-headset-buttons-known">
         <source>the phone knows %1</source>
         <extracomment>How many buttons the phone can tell apart</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>das Telefon kennt %1</translation>
     </message>
     <message id="kiv-key-good">
         <source>Every key was pressed and let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Taste wurde gedrückt und losgelassen.</translation>
     </message>
     <message id="kiv-key-instructions">
         <source>Press each key once and let it go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie jede Taste einmal und lassen Sie sie los.</translation>
     </message>
     <message id="kiv-key-hint">
         <source>Pass unlocks when every key was pressed and let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis jede Taste gedrückt und losgelassen wurde.</translation>
     </message>
     <message id="kiv-key-missing">
         <source>No key of this phone is configured for the test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für dieses Telefon ist keine Taste zum Testen eingestellt.</translation>
     </message>
     <message id="kiv-key-held">
         <source>held</source>
-        <translation type="unfinished"></translation>
+        <translation>gehalten</translation>
     </message>
     <message id="kiv-key-waiting">
         <source>not yet pressed</source>
-        <translation type="unfinished"></translation>
+        <translation>noch nicht gedrückt</translation>
     </message>
     <message id="kiv-light-good">
         <source>The sensor told dark from bright.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Sensor hat Dunkel von Hell unterschieden.</translation>
     </message>
     <message id="kiv-light-instructions">
         <source>Cover the sensor above the display with a finger, then hold it to the light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Decken Sie den Sensor über dem Bildschirm mit einem Finger ab und halten Sie ihn dann ins Licht.</translation>
     </message>
     <message id="kiv-light-hint">
         <source>Pass unlocks when the sensor told dark from bright.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis der Sensor Dunkel von Hell unterschieden hat.</translation>
     </message>
     <message id="kiv-light-missing">
-        <source>This phone shows no light sensor to the system.</source>
-        <translation type="unfinished"></translation>
+        <source>No light sensor was found.</source>
+        <oldsource>This phone shows no light sensor to the system.</oldsource>
+        <translation>Es wurde kein Lichtsensor gefunden.</translation>
     </message>
     <message id="kiv-light-now">
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message id="kiv-light-darkest">
         <source>Darkest</source>
-        <translation type="unfinished"></translation>
+        <translation>Am dunkelsten</translation>
     </message>
     <message id="kiv-light-brightest">
         <source>Brightest</source>
-        <translation type="unfinished"></translation>
+        <translation>Am hellsten</translation>
     </message>
     <message id="kiv-multi-touch-good">
         <source>The panel told %1 fingers apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Touchscreen hat %1 Finger unterschieden.</translation>
     </message>
     <message id="kiv-multi-touch-bad">
         <source>The panel did not tell two fingers apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Touchscreen hat keine zwei Finger unterschieden.</translation>
     </message>
     <message id="kiv-multi-touch-instructions">
         <source>Put five fingers on the panel at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie fünf Finger zugleich auf den Bildschirm.</translation>
     </message>
     <message id="kiv-multi-touch-hint">
         <source>Pass unlocks when two fingers have been told apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis zwei Finger unterschieden wurden.</translation>
     </message>
     <message id="kiv-multi-touch-count">
         <source>%1 of %2</source>
         <extracomment>How many fingers were seen, and how many are wanted</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message id="kiv-multi-touch-patience">
         <source>Ends %1 s after the last touch</source>
-        <translation type="unfinished"></translation>
+        <translation>Endet %1 s nach der letzten Berührung</translation>
     </message>
     <message id="kiv-multi-touch-seen">
         <source>Fingers at once</source>
-        <translation type="unfinished"></translation>
+        <translation>Finger zugleich</translation>
     </message>
     <message id="kiv-prox-good">
         <source>The sensor saw the hand come and go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Sensor hat die Hand kommen und gehen sehen.</translation>
     </message>
     <message id="kiv-prox-hint">
         <source>Pass unlocks when the hand was seen to come and go.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis die Hand kam und ging.</translation>
     </message>
     <message id="kiv-prox-missing">
-        <source>This phone shows no proximity sensor to the system.</source>
-        <translation type="unfinished"></translation>
+        <source>No proximity sensor was found.</source>
+        <oldsource>This phone shows no proximity sensor to the system.</oldsource>
+        <translation>Es wurde kein Näherungssensor gefunden.</translation>
     </message>
     <message id="kiv-prox-step-near">
         <source>Hold a hand over the top of the display</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Hand über das obere Ende des Bildschirms halten</translation>
     </message>
     <message id="kiv-prox-step-far">
         <source>Take the hand away</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hand wegnehmen</translation>
     </message>
     <message id="kiv-prox-near">
         <source>Something near</source>
-        <translation type="unfinished"></translation>
+        <translation>Etwas in der Nähe</translation>
     </message>
     <message id="kiv-sd-card-none">
         <source>No card</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Karte</translation>
     </message>
     <message id="kiv-sd-card-unmounted">
         <source>Not mounted</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht eingehängt</translation>
     </message>
     <message id="kiv-sd-card-mounting">
         <source>Being mounted</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird eingehängt</translation>
     </message>
     <message id="kiv-sd-card-mounted">
         <source>Mounted</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingehängt</translation>
     </message>
     <message id="kiv-sd-card-unmounting">
         <source>Being unmounted</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird ausgehängt</translation>
     </message>
     <message id="kiv-sd-card-not-created">
         <source>No file could be created on the card.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf der Karte ließ sich keine Datei anlegen.</translation>
     </message>
     <message id="kiv-sd-card-differs">
         <source>What was read is not what was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelesen wurde etwas anderes als geschrieben.</translation>
     </message>
     <message id="kiv-sd-card-good">
         <source>A file was written, read back and removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei wurde geschrieben, zurückgelesen und entfernt.</translation>
     </message>
     <message id="kiv-sd-card-working">
         <source>Writing and reading the card</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte wird beschrieben und gelesen</translation>
     </message>
     <message id="kiv-sd-card-instructions-insert">
         <source>Put a memory card into the slot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stecken Sie eine Speicherkarte ein.</translation>
     </message>
     <message id="kiv-sd-card-instructions">
         <source>The card is tested as soon as it is mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte wird geprüft, sobald sie eingehängt ist.</translation>
     </message>
     <message id="kiv-sd-card-hint">
         <source>Pass unlocks when the card has been written and read.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis die Karte beschrieben und gelesen ist.</translation>
     </message>
     <message id="kiv-sd-card-missing">
         <source>There is no card in the slot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es steckt keine Karte.</translation>
     </message>
     <message id="kiv-sd-card-mount-failed">
         <source>A card could not be mounted: it may be damaged or have no file system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Karte ließ sich nicht einhängen: Sie ist beschädigt oder hat kein Dateisystem.</translation>
     </message>
     <message id="kiv-sd-card-state">
         <source>Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte</translation>
     </message>
     <message id="kiv-sd-card-outcome">
         <source>Write and read</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben und lesen</translation>
     </message>
     <message id="kiv-touch-good">
         <source>Every part of the panel has reacted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Teil des Bildschirms hat reagiert.</translation>
     </message>
     <message id="kiv-touch-bad">
         <source>Parts of the panel did not react: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Teile des Bildschirms haben nicht reagiert: %1 von %2</translation>
     </message>
     <message id="kiv-touch-instructions">
         <source>Wipe over the whole panel until no cell is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wischen Sie über den ganzen Bildschirm, bis kein Feld übrig ist.</translation>
     </message>
     <message id="kiv-touch-hint">
         <source>Pass unlocks when every cell has been wiped.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis jedes Feld berührt wurde.</translation>
     </message>
     <message id="kiv-touch-patience">
         <source>Ends %1 s after the last new cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Endet %1 s nach dem letzten neuen Feld</translation>
     </message>
     <message id="kiv-touch-reacted">
         <source>Cells that reacted</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder mit Reaktion</translation>
     </message>
     <message id="kiv-charging-missing">
-        <source>This phone shows no battery to the system, so charging cannot be seen.</source>
-        <translation type="unfinished"></translation>
+        <source>No battery was found, so charging cannot be observed.</source>
+        <oldsource>This phone shows no battery to the system, so charging cannot be seen.</oldsource>
+        <translation>Es wurde kein Akku gefunden; das Laden ist nicht zu beobachten.</translation>
     </message>
     <message id="kiv-charging-switching-off">
         <source>Switching the charger off</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laden wird abgeschaltet</translation>
     </message>
     <message id="kiv-charging-switching-on">
         <source>Switching the charger on</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laden wird eingeschaltet</translation>
     </message>
     <message id="kiv-charging-good">
         <source>Charging stopped and resumed as it was switched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laden hörte auf und begann wieder, wie geschaltet.</translation>
     </message>
     <message id="kiv-charging-hint">
         <source>Pass unlocks when the charger has been switched off and on.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis das Laden ab- und eingeschaltet wurde.</translation>
     </message>
     <message id="kiv-charging-step-plug">
         <source>Plug a charger into the USB socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ladegerät in die USB-Buchse stecken</translation>
     </message>
     <message id="kiv-charging-step-on">
         <source>The phone charges: wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Telefon lädt: warten</translation>
     </message>
     <message id="kiv-charging-step-off">
         <source>Charger switched off: charging stops</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden abgeschaltet: Es hört auf</translation>
     </message>
     <message id="kiv-charging-step-again">
         <source>Charger switched on: charging resumes</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden eingeschaltet: Es beginnt wieder</translation>
     </message>
     <message id="kiv-charging-current-on">
         <source>Current, charger on</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom, Laden an</translation>
     </message>
     <message id="kiv-charging-current-off">
         <source>Current, charger off</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom, Laden aus</translation>
     </message>
     <message id="kiv-charging-stops">
         <source>Charging stops</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden hört auf</translation>
     </message>
     <message id="kiv-charging-resumes">
         <source>Charging resumes</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden beginnt wieder</translation>
     </message>
     <message id="kiv-vibrator-good">
         <source>The operator felt the pulses that were given: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Prüfer hat alle Stöße gespürt: %1</translation>
     </message>
     <message id="kiv-vibrator-bad">
         <source>Pulses given: %1, felt: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Stöße gegeben: %1, gespürt: %2</translation>
     </message>
     <message id="kiv-vibrator-instructions">
         <source>Hold the phone in the hand and count the pulses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nehmen Sie das Telefon in die Hand und zählen Sie die Stöße.</translation>
     </message>
     <message id="kiv-vibrator-hint">
         <source>Pass unlocks when you have said how many pulses you felt.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Bestanden“ ist gesperrt, bis Sie gesagt haben, wie viele Stöße Sie gespürt haben.</translation>
     </message>
     <message id="kiv-vibrator-missing">
-        <source>This phone offers no vibrator to the system.</source>
-        <translation type="unfinished"></translation>
+        <source>No vibrator was found.</source>
+        <oldsource>This phone offers no vibrator to the system.</oldsource>
+        <translation>Es wurde kein Vibrationsmotor gefunden.</translation>
     </message>
     <message id="kiv-vibrator-question">
         <source>How many pulses did you feel?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Stöße haben Sie gespürt?</translation>
     </message>
     <message id="kiv-vibrator-again">
         <source>Give the pulses again</source>
-        <translation type="unfinished"></translation>
+        <translation>Stöße wiederholen</translation>
     </message>
     <message id="kiv-limits-accepted">
         <source>must be %1</source>
         <extracomment>The value that a reading must have</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>muss „%1“ sein</translation>
     </message>
     <message id="kiv-sd-card-failed">
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message id="kiv-battery-charging">
+        <source>Charging</source>
+        <translation>Lädt</translation>
+    </message>
+    <message id="kiv-battery-discharging">
+        <source>Discharging</source>
+        <translation>Entlädt</translation>
+    </message>
+    <message id="kiv-battery-not-charging">
+        <source>Not charging</source>
+        <translation>Lädt nicht</translation>
+    </message>
+    <message id="kiv-battery-full">
+        <source>Full</source>
+        <translation>Voll</translation>
+    </message>
+    <message id="kiv-battery-unknown">
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message id="kiv-battery-health-good">
+        <source>Good</source>
+        <translation>Gut</translation>
+    </message>
+    <message id="kiv-battery-health-overheat">
+        <source>Overheated</source>
+        <translation>Überhitzt</translation>
+    </message>
+    <message id="kiv-battery-health-dead">
+        <source>Dead</source>
+        <translation>Tot</translation>
+    </message>
+    <message id="kiv-battery-health-over-voltage">
+        <source>Over voltage</source>
+        <translation>Überspannung</translation>
+    </message>
+    <message id="kiv-battery-health-failure">
+        <source>Unspecified failure</source>
+        <translation>Unbestimmter Fehler</translation>
+    </message>
+    <message id="kiv-battery-health-cold">
+        <source>Cold</source>
+        <translation>Kalt</translation>
     </message>
 </context>
 </TS>

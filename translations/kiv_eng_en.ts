@@ -286,7 +286,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-battery-wear">
-        <source>Capacity of its design</source>
+        <source>Capacity compared to new</source>
+        <oldsource>Capacity of its design</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-disclaimer-title">
@@ -314,7 +315,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-home-question">
-        <source>Which tests shall run?</source>
+        <source>Which tests do you want to run?</source>
+        <oldsource>Which tests shall run?</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-mode-factory">
@@ -330,7 +332,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-mode-run-in-detail">
-        <source>The tests that warm a new phone up</source>
+        <source>Endurance tests for a new phone</source>
+        <oldsource>The tests that warm a new phone up</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-mode-all">
@@ -338,7 +341,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-mode-all-detail">
-        <source>Everything that this phone has, singly or in a row</source>
+        <source>Everything this phone has, one by one or in a row</source>
+        <oldsource>Everything that this phone has, singly or in a row</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-list-subtitle">
@@ -400,7 +404,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-summary-retest">
-        <source>Retest the failed</source>
+        <source>Retest failed</source>
+        <oldsource>Retest the failed</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-summary-list">
@@ -445,11 +450,13 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-verdict-hold">
-        <source>Hold Pass until it fills</source>
+        <source>Hold Pass until it has filled up</source>
+        <oldsource>Hold Pass until it fills</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-working-probing">
-        <source>Looking at what this phone has</source>
+        <source>Checking what this phone has</source>
+        <oldsource>Looking at what this phone has</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-step-done">
@@ -663,7 +670,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-battery-missing">
-        <source>This phone shows no battery to the system.</source>
+        <source>No battery was found.</source>
+        <oldsource>This phone shows no battery to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-ecompass-good">
@@ -679,7 +687,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-ecompass-missing">
-        <source>This phone shows no compass to the system.</source>
+        <source>No compass was found.</source>
+        <oldsource>This phone shows no compass to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-ecompass-heading">
@@ -795,7 +804,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-headset-missing">
-        <source>This phone shows no headset socket to the system.</source>
+        <source>No headset socket was found.</source>
+        <oldsource>This phone shows no headset socket to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-headset-step-empty">
@@ -833,7 +843,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-headset-buttons-missing">
-        <source>This phone shows no headset buttons to the system.</source>
+        <source>No headset buttons were found.</source>
+        <oldsource>This phone shows no headset buttons to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-headset-buttons-pressed">
@@ -882,7 +893,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-light-missing">
-        <source>This phone shows no light sensor to the system.</source>
+        <source>No light sensor was found.</source>
+        <oldsource>This phone shows no light sensor to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-light-now">
@@ -935,7 +947,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-prox-missing">
-        <source>This phone shows no proximity sensor to the system.</source>
+        <source>No proximity sensor was found.</source>
+        <oldsource>This phone shows no proximity sensor to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-prox-step-near">
@@ -1039,7 +1052,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-charging-missing">
-        <source>This phone shows no battery to the system, so charging cannot be seen.</source>
+        <source>No battery was found, so charging cannot be observed.</source>
+        <oldsource>This phone shows no battery to the system, so charging cannot be seen.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-charging-switching-off">
@@ -1107,7 +1121,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-vibrator-missing">
-        <source>This phone offers no vibrator to the system.</source>
+        <source>No vibrator was found.</source>
+        <oldsource>This phone offers no vibrator to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-vibrator-question">
@@ -1125,6 +1140,50 @@
     </message>
     <message id="kiv-sd-card-failed">
         <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-charging">
+        <source>Charging</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-discharging">
+        <source>Discharging</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-not-charging">
+        <source>Not charging</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-full">
+        <source>Full</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-unknown">
+        <source>Unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-health-good">
+        <source>Good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-health-overheat">
+        <source>Overheated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-health-dead">
+        <source>Dead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-health-over-voltage">
+        <source>Over voltage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-health-failure">
+        <source>Unspecified failure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-battery-health-cold">
+        <source>Cold</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -35,10 +35,10 @@ Item {
         anchors.right: slot.left
         anchors.verticalCenter: parent.verticalCenter
 
-        Words {
+        FittedWords {
             width: parent.width
             text: header.title
-            font.pixelSize: Theme.lead
+            largest: Theme.lead
             font.weight: Font.DemiBold
         }
         Words {

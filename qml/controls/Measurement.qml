@@ -11,6 +11,8 @@ QtObject {
     property var value
     property string unit
     property int decimals: 0
+    /*! What to show in place of certain values. */
+    property var words: ({})
     /*! Inclusive; NaN where there is none. */
     property real minimum: NaN
     property real maximum: NaN
@@ -87,7 +89,7 @@ QtObject {
         if (something === false)
             //% "no"
             return qsTrId("kiv-no");
-        return String(something);
+        return words[something] || String(something);
     }
 
     function number(something) {

@@ -21,6 +21,7 @@ Column {
             // What is too long to stand beside its name stands below it.
             readonly property real room: width - mark.width - Theme.gap
             readonly property bool stacked: metrics.advanceWidth > 0.5 * room
+                                            || metrics.advanceWidth + longest.advanceWidth + 2 * Theme.gap > room
 
             width: table.width
             height: (stacked ? names.height + value.height : Math.max(names.height, value.height)) + 1.5 * Theme.unit
@@ -34,6 +35,12 @@ Column {
                 font: value.font
                 text: value.text
             }
+            // A name breaks between its words only.
+            TextMetrics {
+                id: longest
+                font: title.font
+                text: line.reading.name.split(" ").reduce(function(a, b) { return b.length > a.length ? b : a; }, "")
+            }
             Column {
                 id: names
                 anchors.left: parent.left
@@ -41,6 +48,7 @@ Column {
                 width: line.stacked ? line.room : line.room - Theme.gap - value.width
 
                 Words {
+                    id: title
                     width: parent.width
                     text: line.reading.name
                     Accessible.ignored: true

@@ -11,7 +11,7 @@ T.AbstractButton {
     property color ink: Theme.text
     property bool outlined: true
 
-    implicitWidth: Math.max(Theme.target, label.implicitWidth + icon.width + 5 * Theme.unit)
+    implicitWidth: Math.max(Theme.target, whole.advanceWidth + icon.width + 5 * Theme.unit)
     implicitHeight: Math.max(Theme.target, label.height + 2 * Theme.unit)
     padding: Theme.gap
     opacity: enabled ? 1 : 0.45
@@ -34,6 +34,12 @@ T.AbstractButton {
         }
     }
 
+    TextMetrics {
+        id: whole
+        font: label.font
+        text: button.text
+    }
+
     contentItem: Item {
         Row {
             anchors.centerIn: parent
@@ -46,13 +52,13 @@ T.AbstractButton {
                 size: name === "" ? 0 : 3 * Theme.unit
                 anchors.verticalCenter: parent.verticalCenter
             }
-            Words {
+            FittedWords {
                 id: label
-                width: Math.min(implicitWidth, button.availableWidth - icon.width - (icon.width > 0 ? Theme.gap : 0))
+                room: button.availableWidth - icon.width - (icon.width > 0 ? Theme.gap : 0)
+                width: Math.min(Math.ceil(whole.advanceWidth) + 1, room)
                 text: button.text
                 visible: text !== ""
                 color: button.ink
-                font.pixelSize: Theme.body
                 font.weight: Font.DemiBold
                 horizontalAlignment: Text.AlignHCenter
                 anchors.verticalCenter: parent.verticalCenter

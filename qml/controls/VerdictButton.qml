@@ -44,11 +44,12 @@ T.AbstractButton {
                 color: button.ink
                 size: 3.5 * Theme.unit
             }
-            Words {
+            FittedWords {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 text: button.text
                 color: button.ink
+                largest: 2 * Theme.unit
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }

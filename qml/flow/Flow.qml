@@ -32,10 +32,10 @@ QtObject {
         return seconds;
     }
 
+    /*! Verdicts stay: they are the unit's, whatever sequence they came from. */
     function choose(newMode, features) {
         mode = newMode;
         entries = TestTable.plan(newMode, features);
-        results = {};
         run = [];
         position = 0;
     }

@@ -21,7 +21,7 @@ TestPage {
         wear.value = 100 * battery.maximumEnergy() / battery.maximumDesignEnergy();
         // The kernel's answer to "present" is no also where there is nobody to ask.
         var silent = measurements.every(function(reading) { return reading === present || reading.missing; });
-        //% "This phone shows no battery to the system."
+        //% "No battery was found."
         missing = silent && !present.value ? qsTrId("kiv-battery-missing") : "";
         ++samples;
     }
@@ -51,6 +51,9 @@ TestPage {
     Battery {
         id: battery
     }
+    BatteryWords {
+        id: batteryWords
+    }
 
     Timer {
         id: poll
@@ -69,11 +72,13 @@ TestPage {
         id: status
         //% "State"
         name: qsTrId("kiv-battery-status")
+        words: batteryWords.states
     }
     Measurement {
         id: health
         //% "Health"
         name: qsTrId("kiv-battery-health")
+        words: batteryWords.healths
         accepted: ["Good"]
     }
     Measurement {
@@ -106,7 +111,7 @@ TestPage {
     }
     Measurement {
         id: wear
-        //% "Capacity of its design"
+        //% "Capacity compared to new"
         name: qsTrId("kiv-battery-wear")
         unit: "%"
     }

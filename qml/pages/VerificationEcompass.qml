@@ -35,7 +35,7 @@ TestPage {
     evidenceHint: qsTrId("kiv-ecompass-hint")
 
     onOpened: {
-        //% "This phone shows no compass to the system."
+        //% "No compass was found."
         missing = sensor.connectedToBackend ? "" : qsTrId("kiv-ecompass-missing");
         follow();
     }

@@ -39,7 +39,7 @@ TestPage {
 
     onOpened: {
         headset.openDevice();
-        //% "This phone shows no headset socket to the system."
+        //% "No headset socket was found."
         missing = headset.deviceFound() ? "" : qsTrId("kiv-headset-missing");
         follow();
     }

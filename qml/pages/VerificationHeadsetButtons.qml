@@ -51,7 +51,7 @@ TestPage {
         headset.openDevice();
         headset.openButtonDevice();
         total = headset.buttonCount();
-        //% "This phone shows no headset buttons to the system."
+        //% "No headset buttons were found."
         missing = headset.buttonsFound() ? "" : qsTrId("kiv-headset-buttons-missing");
         follow();
     }

@@ -34,7 +34,7 @@ TestPage {
     evidenceHint: qsTrId("kiv-light-hint")
 
     onOpened: {
-        //% "This phone shows no light sensor to the system."
+        //% "No light sensor was found."
         missing = sensor.connectedToBackend ? "" : qsTrId("kiv-light-missing");
         follow();
     }

@@ -29,7 +29,7 @@ TestPage {
     evidenceHint: qsTrId("kiv-prox-hint")
 
     onOpened: {
-        //% "This phone shows no proximity sensor to the system."
+        //% "No proximity sensor was found."
         missing = sensor.connectedToBackend ? "" : qsTrId("kiv-prox-missing");
         follow();
     }

@@ -38,7 +38,7 @@ TestPage {
     function sample() {
         status.value = battery.status();
         current.value = battery.currentNow() / 1e3;
-        //% "This phone shows no battery to the system, so charging cannot be seen."
+        //% "No battery was found, so charging cannot be observed."
         missing = status.missing && current.missing ? qsTrId("kiv-charging-missing") : "";
         ++ticks;
 
@@ -118,6 +118,9 @@ TestPage {
     Battery {
         id: battery
     }
+    BatteryWords {
+        id: batteryWords
+    }
 
     Timer {
         id: poll
@@ -145,6 +148,7 @@ TestPage {
     Measurement {
         id: status
         name: qsTrId("kiv-battery-status")
+        words: batteryWords.states
     }
     Measurement {
         id: current

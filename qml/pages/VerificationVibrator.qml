@@ -8,7 +8,7 @@ import "../controls"
 TestPage {
     id: page
 
-    readonly property var choices: [1, 2, 3, 4]
+    readonly property var choices: [1, 2, 3]
     readonly property int pulseMs: 350
     readonly property int pauseMs: 450
     property bool motor: false
@@ -49,7 +49,7 @@ TestPage {
 
     onOpened: {
         motor = haptics.availableActuators.length > 0;
-        //% "This phone offers no vibrator to the system."
+        //% "No vibrator was found."
         missing = motor || theme.supported ? "" : qsTrId("kiv-vibrator-missing");
         if (missing !== "")
             return;
@@ -98,7 +98,7 @@ TestPage {
 
                 PushButton {
                     objectName: "felt" + modelData
-                    width: (page.width - 4 * Theme.gap) / 5
+                    width: (page.width - 3 * Theme.gap) / 4
                     implicitWidth: width
                     enabled: page.isOpen && !page.felt
                     text: modelData

@@ -35,7 +35,7 @@ Item {
 
         Words {
             width: parent.width
-            //% "Which tests shall run?"
+            //% "Which tests do you want to run?"
             text: qsTrId("kiv-home-question")
             color: Theme.muted
         }
@@ -53,7 +53,7 @@ Item {
             glyph: "runin"
             //% "Run-in"
             text: qsTrId("kiv-mode-run-in")
-            //% "The tests that warm a new phone up"
+            //% "Endurance tests for a new phone"
             detail: qsTrId("kiv-mode-run-in-detail")
             onClicked: screen.shell.chooseSequence(TestTable.RunInTests)
         }
@@ -62,7 +62,7 @@ Item {
             glyph: "list"
             //% "All tests"
             text: qsTrId("kiv-mode-all")
-            //% "Everything that this phone has, singly or in a row"
+            //% "Everything this phone has, one by one or in a row"
             detail: qsTrId("kiv-mode-all-detail")
             onClicked: screen.shell.chooseSequence(TestTable.AllTests)
         }

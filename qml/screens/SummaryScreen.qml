@@ -65,11 +65,11 @@ Item {
                 color: Theme[screen.look.on]
                 size: 9 * Theme.unit
             }
-            Words {
+            FittedWords {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 color: Theme[screen.look.on]
-                font.pixelSize: Theme.display
+                largest: Theme.display
                 font.weight: Font.Bold
                 text: screen.code === FactoryUtils.Untest
                       //% "Not complete"
@@ -107,10 +107,10 @@ Item {
                         color: Theme[look.ink]
                         text: screen.flow ? screen.flow.count(modelData) : ""
                     }
-                    Words {
+                    FittedWords {
                         width: parent.width
                         horizontalAlignment: Text.AlignHCenter
-                        font.pixelSize: Theme.small
+                        largest: Theme.small
                         color: Theme[look.ink]
                         text: Style.word(modelData)
                     }
@@ -203,7 +203,7 @@ Item {
                 objectName: "retest"
                 readonly property var failedRows: screen.flow ? screen.flow.rowsWith(FactoryUtils.Fail) : []
                 text: failedRows.length > 0
-                      ? //% "Retest the failed"
+                      ? //% "Retest failed"
                         qsTrId("kiv-summary-retest")
                       : //% "Back to the list"
                         qsTrId("kiv-summary-list")

@@ -262,7 +262,7 @@ Item {
                 ink: screen.decided === FactoryUtils.Fail ? Theme.pass : Theme.passInk
                 //% "Pass"
                 text: qsTrId("kiv-verdict-pass")
-                //% "Hold Pass until it fills"
+                //% "Hold Pass until it has filled up"
                 onTooShort: hint.text = qsTrId("kiv-verdict-hold")
                 onActivated: screen.record(FactoryUtils.Pass)
             }

@@ -27,8 +27,7 @@ int registerFakeTypes()
     }
     // Properties that begin with a capital letter cannot be written in QML; these two have no hardware to pretend.
     qmlRegisterType<KivUtils>("Kiv", 1, 0, "KivUtils");
-    qmlRegisterSingletonType<FactoryUtils>("Kiv", 1, 0, "FactoryUtils", [](QQmlEngine *, QJSEngine *) -> QObject * {
-        return new FactoryUtils(nullptr);
-    });
+    qmlRegisterSingletonType<FactoryUtils>(
+        "Kiv", 1, 0, "FactoryUtils", [](QQmlEngine *, QJSEngine *) -> QObject * { return new FactoryUtils(nullptr); });
     return phone;
 }

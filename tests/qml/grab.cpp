@@ -35,8 +35,9 @@ int main(int argc, char **argv)
     parser.addHelpOption();
     parser.addOptions({
         {QStringLiteral("fake"), QStringLiteral("Use the pretended types.")},
-        {QStringLiteral("run"), QStringLiteral("Script to run when the page is there; \"phone\" is what the "
-                                               "pretended types report, \"shell\" the root item."),
+        {QStringLiteral("run"),
+         QStringLiteral("Script to run when the page is there; \"phone\" is what the "
+                        "pretended types report, \"shell\" the root item."),
          QStringLiteral("script")},
         {QStringLiteral("page"), QStringLiteral("Screen or test to show."), QStringLiteral("name")},
         {QStringLiteral("size"), QStringLiteral("Size of the window."), QStringLiteral("WxH"),

@@ -13,10 +13,7 @@ class Setup : public QObject
     Q_OBJECT
 
 public:
-    Setup()
-    {
-        registerFakeTypes();
-    }
+    Setup() { registerFakeTypes(); }
 
 public Q_SLOTS:
     void applicationAvailable()

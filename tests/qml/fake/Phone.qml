@@ -73,6 +73,23 @@ QtObject {
         log = [];
     }
 
+    /*! A phone in which nothing answers. */
+    function removeEverything() {
+        battery = {};
+        settings = {};
+        keys = [];
+        addresses = {};
+        validAddresses = [];
+        calibrationFlagOk = false;
+        calibrationTextOk = false;
+        jackFound = false;
+        buttonsFound = false;
+        touchSelfTest = false;
+        rotation = [0, 0, 0];
+        rotationGood = false;
+        calibrated = [];
+    }
+
     function goodBattery() {
         return { currentNow: 412000, minimumVoltage: 3400000, maximumVoltage: 4350000, voltageNow: 3921000,
                  minimumEnergy: 0, maximumEnergy: 9300000, energyNow: 6120000, minimumDesignEnergy: 0,

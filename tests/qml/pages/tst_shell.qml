@@ -137,7 +137,7 @@ Driver {
         Phone.setBattery({ health: "Overheat" });
         openTest("VerificationBattery");
         tryVerify(function() { return page.verdict === FactoryUtils.Fail; }, 10000);
-        verify(page.reason.indexOf("Overheat") >= 0, page.reason);
+        verify(page.reason.indexOf("Overheated") >= 0, page.reason);
         wait(3500);
         verify(!kept("VerificationBattery"), "a failure waits for a look at it");
         holdPass();
@@ -145,7 +145,7 @@ Driver {
         compare(verdict.code, FactoryUtils.Pass);
         compare(verdict.decided, FactoryUtils.Fail);
         verify(verdict.overruled);
-        verify(verdict.reason.indexOf("Overheat") >= 0);
+        verify(verdict.reason.indexOf("Overheated") >= 0);
     }
 
     function test_leavingKeepsNoVerdict() {

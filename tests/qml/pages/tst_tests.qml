@@ -17,7 +17,7 @@ Driver {
 
     function missingIs(sentence) {
         tryVerify(function() { return page.missing !== ""; }, 5000);
-        verify(page.missing.indexOf(sentence) >= 0, page.missing);
+        verify(page.missing.toLowerCase().indexOf(sentence.toLowerCase()) >= 0, page.missing);
         verify(frame.absent);
         verify(!find("pass").enabled);
         verify(find("na").suggested);
@@ -41,7 +41,7 @@ Driver {
         compare(value("Current"), "412 mA");
         compare(value("Temperature"), "28.4 °C");
         compare(value("Energy left"), "6.12 Wh");
-        compare(value("Capacity of its design"), "96 %");
+        compare(value("Capacity compared to new"), "96 %");
     }
 
     function test_batteryFails_data() {
@@ -456,6 +456,6 @@ Driver {
         missingIs(data.sentence);
         tap("na");
         compare(kept(data.tag).code, FactoryUtils.NA);
-        verify(kept(data.tag).reason.indexOf(data.sentence) >= 0);
+        verify(kept(data.tag).reason.toLowerCase().indexOf(data.sentence) >= 0);
     }
 }
