@@ -7,6 +7,7 @@
 #include "factoryutils.h"
 #include "features.h"
 #include "gps.h"
+#include "gyrosensor.h"
 #include "halldetect.h"
 #include "headsetdetect.h"
 #include "hwsettings.h"
@@ -77,6 +78,7 @@ void registerKivTypes()
     registerType<Recorder>("Recorder");
     registerType<PaCmd>("PaCmd");
     registerType<Battery>("Battery");
+    registerType<GyroSensor>("GyroSensor");
     registerType<Touch>("Touch");
     registerType<SdCardTest>("SdCardTest");
     registerType<RadioPreference>("RadioPreference");
