@@ -10,6 +10,7 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <link.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -83,11 +84,36 @@ bool applicationLibraryPath(char (&path)[PATH_MAX])
     return true;
 }
 
+// The loader maps what the file claims to hold, and the process would die of SIGBUS where an interrupted update or a
+// full disk has cut it off. The section table stands at the end. Everything else that can be wrong the loader tells
+// itself.
+bool isCutOff(const char *path)
+{
+    const int fd = open(path, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    ElfW(Ehdr) header;
+    struct stat status;
+    const bool isElf = fstat(fd, &status) == 0 && S_ISREG(status.st_mode)
+        && read(fd, &header, sizeof(header)) == static_cast<ssize_t>(sizeof(header))
+        && memcmp(header.e_ident, ELFMAG, SELFMAG) == 0;
+    close(fd);
+    if (!isElf)
+        return false;
+    const auto size = static_cast<unsigned long long>(status.st_size);
+    const unsigned long long tableSize = 1ULL * header.e_shnum * header.e_shentsize;
+    return header.e_shoff > size || tableSize > size - header.e_shoff;
+}
+
 int runApplication(int argc, char **argv)
 {
     char path[PATH_MAX];
     if (!applicationLibraryPath(path)) {
         fprintf(stderr, "Failed to find the application library, %s\n", strerror(errno));
+        return 1;
+    }
+    if (isCutOff(path)) {
+        fprintf(stderr, "Failed to load the application library, %s: file is cut off\n", path);
         return 1;
     }
     void *const library = dlopen(path, RTLD_LAZY);

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickView>
+#include <QScreen>
 
 namespace
 {
@@ -24,6 +25,8 @@ QQuickView *KestraneApp::createView()
 {
     const auto view = new QQuickView;
     view->setResizeMode(QQuickView::SizeRootObjectToView);
+    // Where no window manager runs, nobody else makes a full-screen window as large as the screen.
+    view->setGeometry(view->screen()->geometry());
     view->engine()->addImportPath(prefix() + QStringLiteral("/lib/qt5/qml"));
     return view;
 }
