@@ -7,7 +7,6 @@
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
-#include <QFile>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QtTest>
@@ -24,10 +23,6 @@ const QString SatelliteInterface = QStringLiteral("org.freedesktop.Geoclue.Satel
 const QString GetStatus = QStringLiteral("GetStatus");
 const QString GetSatellite = QStringLiteral("GetSatellite");
 const QString StatusChanged = QStringLiteral("StatusChanged");
-
-// What the simulated phone's plugin goes by.
-const QString InstalledProvider =
-    QStringLiteral("/usr/share/dbus-1/services/org.freedesktop.Geoclue.Providers.Hybris.service");
 
 using NumberMap = QMap<int, QString>;
 
@@ -137,7 +132,6 @@ private Q_SLOTS:
     void destroyedWhileWaiting();
     void destroyedInItsOwnSignal();
 
-    void noSatelliteSource();
     void startsTheSource();
     void followsTheSky();
     void reportsSatellites();
@@ -151,7 +145,6 @@ private Q_SLOTS:
 private:
     void startProvider();
     void broadcastStatus(int status) { m_provider->emitSignal(Path, Interface, StatusChanged, {status}); }
-    void installProvider();
 
     PrivateBus m_bus{PrivateBus::Session};
     std::unique_ptr<FakeDaemon> m_provider;
@@ -176,7 +169,6 @@ void tst_Gps::init()
 void tst_Gps::cleanup()
 {
     m_provider.reset();
-    QFile::remove(InstalledProvider);
 }
 
 void tst_Gps::startProvider()
@@ -184,12 +176,6 @@ void tst_Gps::startProvider()
     m_provider = std::make_unique<FakeDaemon>(m_bus.address(), Service);
     m_provider->answer(GetStatus, {int(Gps::StatusAcquiring)});
     m_provider->answer(GetSatellite, report({}, {}));
-}
-
-void tst_Gps::installProvider()
-{
-    QFile file(InstalledProvider);
-    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(file.errorString()));
 }
 
 void tst_Gps::interface()
@@ -225,8 +211,8 @@ void tst_Gps::asksOnceForTheStatus()
     QTRY_VERIFY(!watched.waits());
     broadcastStatus(3);
     QTRY_COMPARE(watched.gps.status(), Gps::StatusAvailable);
-    QCOMPARE(m_provider->members(), QStringList(GetStatus));
-    const QDBusMessage call = m_provider->calls().first();
+    QCOMPARE(m_provider->members().count(GetStatus), 1);
+    const QDBusMessage call = m_provider->calls().at(m_provider->members().indexOf(GetStatus));
     QCOMPARE(call.path(), Path);
     QCOMPARE(call.interface(), Interface);
     QVERIFY(call.arguments().isEmpty());
@@ -236,7 +222,7 @@ void tst_Gps::startsUnavailable()
 {
     m_provider->hold(GetStatus);
     Watched watched;
-    QTRY_COMPARE(m_provider->calls().count(), 1);
+    QTRY_VERIFY(m_provider->members().contains(GetStatus));
     QCOMPARE(watched.gps.status(), Gps::StatusUnavailable);
     // A broadcast does not have to wait for the answer, which has the last word here.
     broadcastStatus(3);
@@ -305,7 +291,7 @@ void tst_Gps::unavailableWhenProviderLeaves()
     startProvider();
     broadcastStatus(2);
     QTRY_COMPARE(watched.statuses, QList<int>({3, 1, 2}));
-    QVERIFY(m_provider->calls().isEmpty());
+    QVERIFY(!m_provider->members().contains(GetStatus));
 
     // Only the name counts, not the process.
     m_provider->disown(Service);
@@ -350,7 +336,7 @@ void tst_Gps::errorWhenProviderDiesInMidCall()
 {
     m_provider->hold(GetStatus);
     Watched watched;
-    QTRY_COMPARE(m_provider->calls().count(), 1);
+    QTRY_VERIFY(m_provider->members().contains(GetStatus));
     m_provider->die();
     // The bus tells both, that the name is free, which is no news, and that there will be no answer.
     QTRY_COMPARE(watched.statuses, QList<int>({0}));
@@ -406,7 +392,6 @@ void tst_Gps::ignoresStrangers()
 void tst_Gps::neverStartsTheProvider()
 {
     m_provider.reset();
-    installProvider();
     QVERIFY(m_bus.makeStartable(Service));
     {
         Watched watched;
@@ -425,7 +410,6 @@ void tst_Gps::neverStartsTheProvider()
 
 void tst_Gps::destroyedWhileWaiting()
 {
-    installProvider();
     m_provider->hold(GetStatus);
     m_provider->hold(GetSatellite);
     MessageLog log;
@@ -456,24 +440,8 @@ void tst_Gps::destroyedInItsOwnSignal()
     QTRY_COMPARE(destroyed.count(), 1);
 }
 
-void tst_Gps::noSatelliteSource()
-{
-    MessageLog log;
-    Watched watched;
-    QVERIFY(!watched.source());
-    QVERIFY(!watched.gps.satelliteInfoAvailable());
-    QVERIFY(!watched.gps.satelliteInfoError());
-    QCOMPARE(watched.gps.satellitesInView(), 0);
-    QCOMPARE(watched.gps.satellitesInUse(), 0);
-    QCOMPARE(watched.gps.satelliteInfo(), QVariantList());
-    QTRY_COMPARE(watched.statuses, QList<int>({2}));
-    QVERIFY(watched.seen.isEmpty());
-    QVERIFY(log.all().isEmpty());
-}
-
 void tst_Gps::startsTheSource()
 {
-    installProvider();
     Watched watched;
     QVERIFY(watched.source());
     QCOMPARE(watched.source()->parent(), &watched.gps);
@@ -486,7 +454,6 @@ void tst_Gps::startsTheSource()
 
 void tst_Gps::followsTheSky()
 {
-    installProvider();
     m_provider->answer(GetSatellite, report({{5, 40, 83, 46}, {17, 12, 308, 41}}, {5}));
     Watched watched;
     QTRY_COMPARE(watched.seen.count(), 4);
@@ -515,7 +482,6 @@ void tst_Gps::followsTheSky()
 
 void tst_Gps::reportsSatellites()
 {
-    installProvider();
     Watched watched;
     QTRY_COMPARE(watched.seen.count(), 2);
     watched.takeSeen();
@@ -538,7 +504,6 @@ void tst_Gps::reportsSatellites()
 
 void tst_Gps::sameNumberIsNoChangeOfCount()
 {
-    installProvider();
     Watched watched;
     QTRY_COMPARE(watched.seen.count(), 2);
     watched.takeSeen();
@@ -566,7 +531,6 @@ void tst_Gps::sameNumberIsNoChangeOfCount()
 
 void tst_Gps::comparesIdentifiersOnly()
 {
-    installProvider();
     Watched watched;
     QTRY_COMPARE(watched.seen.count(), 2);
     watched.takeSeen();
@@ -580,7 +544,6 @@ void tst_Gps::comparesIdentifiersOnly()
 
 void tst_Gps::missingAttributes()
 {
-    installProvider();
     Watched watched;
     QTRY_COMPARE(watched.seen.count(), 2);
     watched.takeSeen();
@@ -590,7 +553,6 @@ void tst_Gps::missingAttributes()
 
 void tst_Gps::reportsSourceErrors()
 {
-    installProvider();
     Watched watched;
     QTRY_COMPARE(watched.seen.count(), 2);
     watched.takeSeen();
@@ -613,7 +575,6 @@ void tst_Gps::reportsSourceErrors()
 
 void tst_Gps::survivesManySatellites()
 {
-    installProvider();
     Rows many;
     QList<int> used;
     for (int i = 0; i < 20000; ++i)
@@ -629,7 +590,6 @@ void tst_Gps::survivesManySatellites()
 
 void tst_Gps::destroyedInSourceSignal()
 {
-    installProvider();
     m_provider->answer(GetSatellite, report({{5, 40, 83, 46}}, {5}));
     for (const auto signal : {&Gps::satelliteInfoChanged, &Gps::satellitesInViewChanged, &Gps::satellitesInUseChanged}) {
         auto *gps = new Gps;

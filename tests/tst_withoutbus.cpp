@@ -85,7 +85,12 @@ void tst_WithoutBus::gps()
     QCOMPARE(gps.status(), Gps::StatusUnavailable);
     QTRY_COMPARE(spy.count(), 1);
     QCOMPARE(gps.status(), Gps::StatusError);
+    // Nor is there a satellite source.
     QVERIFY(!gps.satelliteInfoAvailable());
+    QVERIFY(!gps.satelliteInfoError());
+    QCOMPARE(gps.satellitesInView(), 0);
+    QCOMPARE(gps.satellitesInUse(), 0);
+    QCOMPARE(gps.satelliteInfo(), QVariantList());
     QVERIFY2(log.all().isEmpty(), qPrintable(log.all().join(QLatin1Char('\n'))));
 }
 

@@ -4,7 +4,6 @@
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QFile>
 
 namespace
 {
@@ -14,9 +13,6 @@ const QString Interface = QStringLiteral("org.freedesktop.Geoclue.Satellite");
 // Time, number of satellites in use, number in view, identifiers of those in use, and of each in view its identifier,
 // elevation, azimuth and signal strength.
 const QString ReportSignature = QStringLiteral("iiiaia(iiii)");
-
-const QString InstalledProvider =
-    QStringLiteral("/usr/share/dbus-1/services/org.freedesktop.Geoclue.Providers.Hybris.service");
 
 // GPS receivers report once a second.
 constexpr int ReportIntervalMs = 1000;
@@ -155,7 +151,7 @@ QGeoPositionInfoSource *SatelliteSourceFactory::positionInfoSource(QObject *)
 
 QGeoSatelliteInfoSource *SatelliteSourceFactory::satelliteInfoSource(QObject *parent)
 {
-    return QFile::exists(InstalledProvider) ? new SatelliteSource(parent) : nullptr;
+    return new SatelliteSource(parent);
 }
 
 QGeoAreaMonitorSource *SatelliteSourceFactory::areaMonitor(QObject *)

@@ -58,7 +58,6 @@ class SatelliteSourceFactory : public QObject, public QGeoPositionInfoSourceFact
 
 public:
     QGeoPositionInfoSource *positionInfoSource(QObject *parent) override;
-    /*! Null on a phone on which no positioning provider is installed. */
     QGeoSatelliteInfoSource *satelliteInfoSource(QObject *parent) override;
     QGeoAreaMonitorSource *areaMonitor(QObject *parent) override;
 };
