@@ -68,8 +68,8 @@ private:
 };
 
 // Waits for what is signalled next.
-#define QTRY_LOG(watched, expected) \
-    QTRY_COMPARE((watched).heard(), expected); \
+#define QTRY_LOG(watched, expected)                                                                                    \
+    QTRY_COMPARE((watched).heard(), expected);                                                                         \
     (watched).log()
 
 QString text(const char *utf8)
@@ -229,10 +229,10 @@ void tst_PartitionManager::recognisesCards_data()
     row("empty Block", "card(); tree.objects[P1][BLOCK] = {}", 0);
     row("partition table", "card(); tree.objects[P1].update(partition_table())", 0);
     row("empty partition table", "card(); tree.objects[P1][PARTITION_TABLE] = {}", 0);
-    row("partition table of another", "card(); tree.add(CARD_DISK, block('/dev/mmcblk1', D1), partition_table(P1))",
-        1);
-    row("whole disk with a file system", "tree.add(D1, drive()); "
-                                         "tree.add(CARD_DISK, block('/dev/mmcblk1', D1), filesystem())",
+    row("partition table of another", "card(); tree.add(CARD_DISK, block('/dev/mmcblk1', D1), partition_table(P1))", 1);
+    row("whole disk with a file system",
+        "tree.add(D1, drive()); "
+        "tree.add(CARD_DISK, block('/dev/mmcblk1', D1), filesystem())",
         1);
 
     row("no drive", "card(); del tree.objects[D1]", 0);
@@ -260,14 +260,17 @@ void tst_PartitionManager::recognisesCards_data()
     onDrive("Removable", "", true, false, 1);
     onDrive("MediaRemovable", "", false, true, 1);
     onDrive("both", "ata", true, true, 1);
-    row("ConnectionBus is bytes", "tree.add(D1, drive('', False, False)); card(); "
-                                  "tree.objects[D1][DRIVE]['ConnectionBus'] = file_name('usb')",
+    row("ConnectionBus is bytes",
+        "tree.add(D1, drive('', False, False)); card(); "
+        "tree.objects[D1][DRIVE]['ConnectionBus'] = file_name('usb')",
         0);
-    row("Removable is text", "tree.add(D1, drive('', False, False)); card(); "
-                             "tree.objects[D1][DRIVE]['Removable'] = 'true'",
+    row("Removable is text",
+        "tree.add(D1, drive('', False, False)); card(); "
+        "tree.objects[D1][DRIVE]['Removable'] = 'true'",
         0);
-    row("Removable is an array", "tree.add(D1, drive('', False, False)); card(); "
-                                 "tree.objects[D1][DRIVE]['Removable'] = dbus.Array([True], signature='b')",
+    row("Removable is an array",
+        "tree.add(D1, drive('', False, False)); card(); "
+        "tree.objects[D1][DRIVE]['Removable'] = dbus.Array([True], signature='b')",
         0);
 }
 
@@ -337,7 +340,8 @@ void tst_PartitionManager::followsChanges_data()
          {"tree.remove(P1)", "removed unmounted", ""},
          {"tree.remove(CARD_DISK)", "", ""},
          {"tree.remove(D1)", "", ""}});
-    row("mounted card comes", "pass", {{"card(P1, None, '/media/x')", "added mounted at /media/x", "mounted at /media/x"}});
+    row("mounted card comes", "pass",
+        {{"card(P1, None, '/media/x')", "added mounted at /media/x", "mounted at /media/x"}});
     row("drive comes last", "card(); tree.remove(D1)",
         {{"tree.add(D1, drive())", "added unmounted", "unmounted"},
          {"tree.remove(D1)", "removed unmounted", ""},
@@ -386,11 +390,13 @@ void tst_PartitionManager::followsChanges_data()
          {"tree.change(P1, PARTITION, Name='x')", "", "unmounted"},
          {"tree.change(P1, FILESYSTEM)", "", "unmounted"}});
     row("unknown object changes", "card()",
-        {{"tree.emit(P2, PROPERTIES, 'PropertiesChanged', 'sa{sv}as', FILESYSTEM, {'MountPoints': file_names('/')}, [])",
+        {{"tree.emit(P2, PROPERTIES, 'PropertiesChanged', 'sa{sv}as', FILESYSTEM, {'MountPoints': file_names('/')}, "
+          "[])",
           "", "unmounted"},
          {"tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesRemoved', 'oas', P2, [BLOCK])", "", "unmounted"}});
     row("interface that it has not changes", "card(); tree.remove(P1, FILESYSTEM)",
-        {{"tree.emit(P1, PROPERTIES, 'PropertiesChanged', 'sa{sv}as', FILESYSTEM, {'MountPoints': file_names('/')}, [])",
+        {{"tree.emit(P1, PROPERTIES, 'PropertiesChanged', 'sa{sv}as', FILESYSTEM, {'MountPoints': file_names('/')}, "
+          "[])",
           "", ""}});
 
     row("mount points", "card()",
@@ -404,7 +410,8 @@ void tst_PartitionManager::followsChanges_data()
     row("mount points with NUL inside", "card()",
         {{"tree.set_mount_points(P1, '/x\\0/y')", "changed mounted at /x", "mounted at /x"}});
     row("mount points beyond ASCII", "card()",
-        {{"tree.set_mount_points(P1, '/Fotos Käse ☃')", "changed mounted at /Fotos Käse ☃", "mounted at /Fotos Käse ☃"}});
+        {{"tree.set_mount_points(P1, '/Fotos Käse ☃')", "changed mounted at /Fotos Käse ☃",
+          "mounted at /Fotos Käse ☃"}});
     row("empty mount point", "card()",
         {{"tree.set_mount_points(P1, '')", "changed mounted", "mounted"},
          {"tree.change(P1, FILESYSTEM, MountPoints=dbus.Array([dbus.Array([], signature='y')], signature='ay'))", "",
@@ -552,9 +559,11 @@ void tst_PartitionManager::survivesNonsense_data()
     row("InterfacesAdded with a text for the path",
         "tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesAdded', 'sa{sa{sv}}', P2, block('/dev/x', D1))");
     row("InterfacesAdded with texts for variants",
-        "tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesAdded', 'oa{sa{ss}}', P1, {FILESYSTEM: {'MountPoints': '/x'}})");
-    row("InterfacesAdded with one more", "tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesAdded', 'oa{sa{sv}}i', P1, "
-                                         "filesystem('/x'), 1)");
+        "tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesAdded', 'oa{sa{ss}}', P1, {FILESYSTEM: {'MountPoints': "
+        "'/x'}})");
+    row("InterfacesAdded with one more",
+        "tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesAdded', 'oa{sa{sv}}i', P1, "
+        "filesystem('/x'), 1)");
     row("InterfacesRemoved without arguments", "tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesRemoved', '')");
     row("InterfacesRemoved with a text", "tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesRemoved', 'os', P1, BLOCK)");
     row("InterfacesRemoved with a path only", "tree.emit(MAIN_OBJ, OBJECT_MANAGER, 'InterfacesRemoved', 'o', P1)");
@@ -566,8 +575,9 @@ void tst_PartitionManager::survivesNonsense_data()
     row("PropertiesChanged with an interface only", "tree.emit(P1, PROPERTIES, 'PropertiesChanged', 's', FILESYSTEM)");
     row("PropertiesChanged without invalidated",
         "tree.emit(P1, PROPERTIES, 'PropertiesChanged', 'sa{sv}', FILESYSTEM, {'MountPoints': file_names('/x')})");
-    row("PropertiesChanged with texts", "tree.emit(P1, PROPERTIES, 'PropertiesChanged', 'sa{ss}as', FILESYSTEM, "
-                                        "{'MountPoints': '/x'}, [])");
+    row("PropertiesChanged with texts",
+        "tree.emit(P1, PROPERTIES, 'PropertiesChanged', 'sa{ss}as', FILESYSTEM, "
+        "{'MountPoints': '/x'}, [])");
     row("PropertiesChanged of an empty interface",
         "tree.emit(P1, PROPERTIES, 'PropertiesChanged', 'sa{sv}as', '', {'MountPoints': file_names('/x')}, [])");
     row("PropertiesChanged with an empty name",
@@ -581,15 +591,18 @@ void tst_PartitionManager::survivesNonsense_data()
     row("Completed elsewhere", "tree.emit('/', JOB, 'Completed', 'bs', False, '')");
     row("Completed of another interface", "tree.emit(j, 'org.example.Job', 'Completed', 'bs', False, '')");
     row("job of texts", "tree.add(JOBS + '1', {JOB: {'Operation': dbus.UInt32(1), 'Objects': 'x', 'StartTime': ''}})");
-    row("job with texts for paths", "tree.add(JOBS + '1', job('filesystem-unmount', "
-                                    "Objects=dbus.Array([str(P1)], signature='s')))");
+    row("job with texts for paths",
+        "tree.add(JOBS + '1', job('filesystem-unmount', "
+        "Objects=dbus.Array([str(P1)], signature='s')))");
     row("job with a path for paths", "tree.add(JOBS + '1', job('filesystem-unmount', Objects=dbus.ObjectPath(P1)))");
-    row("job of very many", "tree.add(JOBS + '1', job('filesystem-unmount', *(BLOCKS + str(i) for i in range(200000))))");
+    row("job of very many",
+        "tree.add(JOBS + '1', job('filesystem-unmount', *(BLOCKS + str(i) for i in range(200000))))");
     row("very many mount points elsewhere",
         "tree.add(P2, filesystem(*('/%d' % i for i in range(100000))), block('/dev/x', '/'))");
     row("very long name", "tree.add(P2, block('/dev/' + 'x' * 4000000, '/'))");
-    row("deep variant", "v = 1\nfor i in range(12): v = dbus.Struct([v], signature='v', variant_level=1)\n"
-                        "tree.change(P1, BLOCK, Deep=v)");
+    row("deep variant",
+        "v = 1\nfor i in range(12): v = dbus.Struct([v], signature='v', variant_level=1)\n"
+        "tree.change(P1, BLOCK, Deep=v)");
     row("everything on one object", "tree.add(JOBS + '1', drive(), block('/dev/z', JOBS + '1'), job('x'))");
     row("object that is its own drive", "tree.add(P2, block('/dev/z', P2), drive(), partition_table())");
 }
@@ -677,8 +690,7 @@ void tst_PartitionManager::removesAllBeforeItTells()
     m_udisks->run(text("card(); card(P2)"));
     const Watched watched;
     QVector<int> counts;
-    connect(watched.manager.get(), &PartitionManager::partitionRemoved, this,
-            [&] { counts << watched.count(); });
+    connect(watched.manager.get(), &PartitionManager::partitionRemoved, this, [&] { counts << watched.count(); });
     m_udisks->run(text("tree.remove(D1)"));
     QCOMPARE(counts, QVector<int>({0, 0}));
 }
@@ -707,8 +719,7 @@ void tst_PartitionManager::asksAnewForInvalidatedProperties()
     m_udisks->run(text("tree.objects[D1] = drive('', False, False); ")
                   + invalidate.arg(text("D1"), text("DRIVE"), text("Removable")));
     QTRY_LOG(watched, text("removed unmounted"));
-    m_udisks->run(text("tree.objects[D1] = drive(); ")
-                  + invalidate.arg(text("D1"), text("DRIVE"), text("Removable")));
+    m_udisks->run(text("tree.objects[D1] = drive(); ") + invalidate.arg(text("D1"), text("DRIVE"), text("Removable")));
     QTRY_LOG(watched, text("added unmounted"));
 
     m_udisks->run(text("j = tree.start_job('', P1); tree.objects[j][JOB]['Operation'] = 'filesystem-mount'; ")
@@ -739,8 +750,8 @@ void tst_PartitionManager::asksOnceForManyInvalidations()
 
 void tst_PartitionManager::ignoresLateProperties()
 {
-    const QString invalidate
-        = text("hold(); tree.emit(P1, PROPERTIES, 'PropertiesChanged', 'sa{sv}as', FILESYSTEM, {}, ['MountPoints'])");
+    const QString invalidate =
+        text("hold(); tree.emit(P1, PROPERTIES, 'PropertiesChanged', 'sa{sv}as', FILESYSTEM, {}, ['MountPoints'])");
     m_udisks->run(text("card()"));
     Watched watched;
 
@@ -961,9 +972,8 @@ void tst_PartitionManager::believesOnlyTheService()
                             destination);
         stranger.emitSignal(job, QStringLiteral("org.freedesktop.UDisks2.Job"), QStringLiteral("Completed"),
                             {false, QString()}, destination);
-        stranger.emitSignal(QStringLiteral("/org/freedesktop/DBus/Local"),
-                            QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), {},
-                            destination);
+        stranger.emitSignal(QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
+                            QStringLiteral("Disconnected"), {}, destination);
     }
     Udisks2Process::settle();
     QCOMPARE(watched.log(), QString());
@@ -1048,7 +1058,9 @@ void tst_PartitionManager::leavesNothingBehind()
 {
     const auto descriptors = [] { return QDir(QStringLiteral("/proc/self/fd")).count(); };
     m_udisks->run(text("card()"));
-    { const Watched warmUp; }
+    {
+        const Watched warmUp;
+    }
     Udisks2Process::settle();
     const uint before = descriptors();
     for (int i = 0; i < 1000; ++i) {

@@ -42,8 +42,7 @@ public:
         m_process.start(QStringLiteral("/usr/bin/python3"),
                         {QStringLiteral("-Es"), QStringLiteral("-m"), QStringLiteral("dbusmock"),
                          QStringLiteral("--system"), QStringLiteral("--template"),
-                         source + QStringLiteral("/tests/udisks2mock.py"), QStringLiteral("--parameters"),
-                         parameters});
+                         source + QStringLiteral("/tests/udisks2mock.py"), QStringLiteral("--parameters"), parameters});
         // Calls made before it has set itself up wait for it; those before it has its name fail.
         for (int i = 0; i < 3000 && m_process.state() != QProcess::NotRunning; ++i) {
             if (call(QStringLiteral("Run"), {QStringLiteral("pass")}).type() == QDBusMessage::ReplyMessage)
@@ -110,9 +109,9 @@ private:
     }
     QDBusMessage call(const QString &method, const QVariantList &arguments)
     {
-        QDBusMessage message = QDBusMessage::createMethodCall(
-            QStringLiteral("org.freedesktop.UDisks2"), QStringLiteral("/org/freedesktop/UDisks2"),
-            QStringLiteral("org.freedesktop.DBus.Mock"), method);
+        QDBusMessage message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.UDisks2"),
+                                                              QStringLiteral("/org/freedesktop/UDisks2"),
+                                                              QStringLiteral("org.freedesktop.DBus.Mock"), method);
         message.setArguments(arguments);
         message.setAutoStartService(false);
         return m_control.call(message);
