@@ -5,6 +5,7 @@
 #include "privatebus.h"
 #include "udisks2process.h"
 
+#include <QDBusReply>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QtTest>
@@ -957,9 +958,9 @@ void tst_PartitionManager::believesOnlyTheService()
     const QString path = m_udisks->run(text("result = P1"));
     const QString job = m_udisks->run(text("result = j"));
 
-    FakeDaemon stranger(m_bus->address());
     const QStringList destinations{QString(), QDBusConnection::systemBus().baseService()};
     for (const QString &destination : destinations) {
+        FakeDaemon stranger(m_bus->address());
         stranger.emitSignal(ManagerPath, QStringLiteral("org.freedesktop.DBus.ObjectManager"),
                             QStringLiteral("InterfacesRemoved"),
                             {QVariant::fromValue(QDBusObjectPath(path)),
@@ -972,6 +973,7 @@ void tst_PartitionManager::believesOnlyTheService()
                             destination);
         stranger.emitSignal(job, QStringLiteral("org.freedesktop.UDisks2.Job"), QStringLiteral("Completed"),
                             {false, QString()}, destination);
+        // The bus throws out who pretends this.
         stranger.emitSignal(QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
                             QStringLiteral("Disconnected"), {}, destination);
     }
@@ -1057,18 +1059,34 @@ void tst_PartitionManager::tellsInOrderThroughNestedLoop()
 void tst_PartitionManager::leavesNothingBehind()
 {
     const auto descriptors = [] { return QDir(QStringLiteral("/proc/self/fd")).count(); };
+    // What the bus has been asked to pass on to this process.
+    const auto matchRules = [] {
+        const QDBusConnection bus = QDBusConnection::systemBus();
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+            QStringLiteral("org.freedesktop.DBus.Debug.Stats"), QStringLiteral("GetConnectionStats"));
+        call << bus.baseService();
+        const QDBusReply<QVariantMap> reply = bus.call(call);
+        return reply.value().value(QStringLiteral("MatchRules")).toInt();
+    };
     m_udisks->run(text("card()"));
     {
         const Watched warmUp;
     }
     Udisks2Process::settle();
     const uint before = descriptors();
+    const int rulesBefore = matchRules();
+    {
+        const PartitionManager manager;
+        QVERIFY(matchRules() > rulesBefore);
+    }
     for (int i = 0; i < 1000; ++i) {
         const PartitionManager manager;
         QCOMPARE(manager.partitions(Cards).size(), 1);
     }
     Udisks2Process::settle();
     QCOMPARE(descriptors(), before);
+    QCOMPARE(matchRules(), rulesBefore);
 }
 
 void tst_PartitionManager::handlesManyObjects()

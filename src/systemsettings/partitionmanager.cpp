@@ -22,6 +22,9 @@ const QString Service = QStringLiteral("org.freedesktop.UDisks2");
 const QString ManagerPath = QStringLiteral("/org/freedesktop/UDisks2");
 const QString ObjectManagerInterface = QStringLiteral("org.freedesktop.DBus.ObjectManager");
 const QString PropertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+// Where Qt's own library tells of the connection.
+const QString LocalPath = QStringLiteral("/org/freedesktop/DBus/Local");
+const QString LocalInterface = QStringLiteral("org.freedesktop.DBus.Local");
 const QString JobInterface = QStringLiteral("org.freedesktop.UDisks2.Job");
 
 constexpr std::chrono::milliseconds FirstListTimeout{2000};
@@ -51,17 +54,19 @@ PartitionManager::PartitionManager(QObject *parent) : QObject(parent), m_bus(QDB
 {
     if (!m_bus.isConnected())
         return;
-    m_bus.connect(Service, ManagerPath, ObjectManagerInterface, QStringLiteral("InterfacesAdded"), this,
-                  SLOT(onInterfacesAdded(QDBusMessage)));
-    m_bus.connect(Service, ManagerPath, ObjectManagerInterface, QStringLiteral("InterfacesRemoved"), this,
-                  SLOT(onInterfacesRemoved(QDBusMessage)));
-    m_bus.connect(Service, QString(), PropertiesInterface, QStringLiteral("PropertiesChanged"), this,
+    // Without the service's name: Qt would look up its owner, which blocks. isFromDaemon() sees to it instead.
+    const auto subscribe = [this](const QString &path, const QString &interface, const char *member,
+                                  const QStringList &arguments, const char *slot) {
+        m_bus.connect(QString(), path, interface, QLatin1String(member), arguments, QString(), this, slot);
+    };
+    subscribe(ManagerPath, ObjectManagerInterface, "InterfacesAdded", {}, SLOT(onInterfacesAdded(QDBusMessage)));
+    subscribe(ManagerPath, ObjectManagerInterface, "InterfacesRemoved", {}, SLOT(onInterfacesRemoved(QDBusMessage)));
+    for (const QString &interface : UDisksObjects::interfacesWithProperties()) {
+        subscribe(QString(), PropertiesInterface, "PropertiesChanged", {interface},
                   SLOT(onPropertiesChanged(QDBusMessage)));
-    m_bus.connect(Service, QString(), JobInterface, QStringLiteral("Completed"), this,
-                  SLOT(onJobCompleted(QDBusMessage)));
-    m_bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-                  QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
-                  SLOT(onBusLost()));
+    }
+    subscribe(QString(), JobInterface, "Completed", {}, SLOT(onJobCompleted(QDBusMessage)));
+    subscribe(LocalPath, LocalInterface, "Disconnected", {}, SLOT(onBusLost()));
     const auto watcher = new QDBusServiceWatcher(Service, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString &, const QString &oldOwner, const QString &newOwner) {

@@ -4,7 +4,6 @@
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 #include <QFile>
-#include <QStringList>
 
 #include <utility>
 
@@ -91,6 +90,7 @@ void UDisksObjects::Filesystem::set(const QString &property, const QVariant &val
         mounted = true;
         mountPath = QFile::decodeName(upToNul(first));
     }
+    places.endArray();
 }
 
 void UDisksObjects::Drive::set(const QString &property, const QVariant &value)
@@ -126,6 +126,7 @@ void UDisksObjects::Job::set(const QString &property, const QVariant &value)
             paths >> path;
             objects.insert(path.path());
         }
+        paths.endArray();
     }
 }
 
@@ -137,6 +138,11 @@ bool UDisksObjects::Job::isMount() const
 bool UDisksObjects::Job::isUnmount() const
 {
     return operation == QLatin1String("filesystem-unmount");
+}
+
+QStringList UDisksObjects::interfacesWithProperties()
+{
+    return {BlockInterface, FilesystemInterface, DriveInterface, JobInterface};
 }
 
 void UDisksObjects::clear()

@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QVariantMap>
 
 class QDBusArgument;
@@ -73,6 +74,9 @@ public:
         const Job *latest = nullptr; //!< a null pointer when there are none
         QSet<QString> mounting; //!< paths of those that mount it
     };
+
+    /*! The interfaces whose properties matter. */
+    static QStringList interfacesWithProperties();
 
     void clear();
     /*! Takes over a whole list of objects, of signature a{oa{sa{sv}}}, in place of all that was known. */
