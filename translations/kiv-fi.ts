@@ -1,0 +1,1175 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fi" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="kiv-back">
+        <source>Back</source>
+        <translation>Takaisin</translation>
+    </message>
+    <message id="kiv-reading-missing">
+        <source>no reading</source>
+        <translation>ei lukemaa</translation>
+    </message>
+    <message id="kiv-limits-accepted">
+        <source>must be %1</source>
+        <extracomment>The value that a reading must have</extracomment>
+        <translation>oltava ”%1”</translation>
+    </message>
+    <message id="kiv-limits-range">
+        <source>%1 to %2 %3</source>
+        <extracomment>Limits of a reading: the lowest, the highest, the unit</extracomment>
+        <translation>%1–%2 %3</translation>
+    </message>
+    <message id="kiv-limits-minimum">
+        <source>at least %1 %2</source>
+        <translation>vähintään %1 %2</translation>
+    </message>
+    <message id="kiv-limits-maximum">
+        <source>at most %1 %2</source>
+        <translation>enintään %1 %2</translation>
+    </message>
+    <message id="kiv-reading-pass">
+        <source>in order</source>
+        <translation>kunnossa</translation>
+    </message>
+    <message id="kiv-reading-near">
+        <source>close to the limit</source>
+        <translation>lähellä rajaa</translation>
+    </message>
+    <message id="kiv-reading-fail">
+        <source>out of limits</source>
+        <translation>rajojen ulkopuolella</translation>
+    </message>
+    <message id="kiv-yes">
+        <source>yes</source>
+        <translation>kyllä</translation>
+    </message>
+    <message id="kiv-no">
+        <source>no</source>
+        <translation>ei</translation>
+    </message>
+    <message id="kiv-step-done">
+        <source>done</source>
+        <translation>tehty</translation>
+    </message>
+    <message id="kiv-verdict-passed">
+        <source>Passed</source>
+        <translation>Hyväksytty</translation>
+    </message>
+    <message id="kiv-verdict-failed">
+        <source>Failed</source>
+        <translation>Hylätty</translation>
+    </message>
+    <message id="kiv-verdict-not-applicable">
+        <source>Not applicable</source>
+        <translation>Ei koske</translation>
+    </message>
+    <message id="kiv-verdict-not-tested">
+        <source>Not tested</source>
+        <translation>Ei testattu</translation>
+    </message>
+    <message id="kiv-test-touch-self">
+        <source>Touch panel self-test</source>
+        <translation>Kosketusnäytön itsetesti</translation>
+    </message>
+    <message id="kiv-test-touch">
+        <source>Touch panel</source>
+        <translation>Kosketusnäyttö</translation>
+    </message>
+    <message id="kiv-test-multi-touch">
+        <source>Several fingers</source>
+        <translation>Monta sormea</translation>
+    </message>
+    <message id="kiv-test-lcd">
+        <source>Display</source>
+        <translation>Näyttö</translation>
+    </message>
+    <message id="kiv-test-lcd-backlight">
+        <source>Display backlight</source>
+        <translation>Näytön taustavalo</translation>
+    </message>
+    <message id="kiv-test-light">
+        <source>Light sensor</source>
+        <translation>Valoanturi</translation>
+    </message>
+    <message id="kiv-test-prox">
+        <source>Proximity sensor</source>
+        <translation>Läheisyysanturi</translation>
+    </message>
+    <message id="kiv-test-gyro">
+        <source>Gyroscope and accelerometer</source>
+        <translation>Gyroskooppi ja kiihtyvyysanturi</translation>
+    </message>
+    <message id="kiv-test-ecompass">
+        <source>Compass</source>
+        <translation>Kompassi</translation>
+    </message>
+    <message id="kiv-test-hall">
+        <source>Cover magnet switch</source>
+        <translation>Kannen magneettikytkin</translation>
+    </message>
+    <message id="kiv-test-fingerprint">
+        <source>Fingerprint reader</source>
+        <translation>Sormenjälkilukija</translation>
+    </message>
+    <message id="kiv-test-mic-1">
+        <source>Microphone 1</source>
+        <translation>Mikrofoni 1</translation>
+    </message>
+    <message id="kiv-test-mic-2">
+        <source>Microphone 2</source>
+        <translation>Mikrofoni 2</translation>
+    </message>
+    <message id="kiv-test-speaker-music">
+        <source>Loudspeaker music</source>
+        <translation>Kaiutin: musiikki</translation>
+    </message>
+    <message id="kiv-test-speaker-stereo">
+        <source>Loudspeaker left and right</source>
+        <translation>Kaiutin: vasen ja oikea</translation>
+    </message>
+    <message id="kiv-test-receiver">
+        <source>Earpiece</source>
+        <translation>Kuuloke korvalla</translation>
+    </message>
+    <message id="kiv-test-headset-buttons">
+        <source>Headset buttons</source>
+        <translation>Kuulokemikrofonin painikkeet</translation>
+    </message>
+    <message id="kiv-test-headset">
+        <source>Headset socket</source>
+        <translation>Kuulokeliitäntä</translation>
+    </message>
+    <message id="kiv-test-headset-music">
+        <source>Headset music</source>
+        <translation>Kuulokkeet: musiikki</translation>
+    </message>
+    <message id="kiv-test-front-camera">
+        <source>Front camera</source>
+        <translation>Etukamera</translation>
+    </message>
+    <message id="kiv-test-back-camera">
+        <source>Back camera</source>
+        <translation>Takakamera</translation>
+    </message>
+    <message id="kiv-test-wifi">
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message id="kiv-test-bluetooth">
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message id="kiv-test-zel">
+        <source>Smart cover</source>
+        <translation>Älykansi</translation>
+    </message>
+    <message id="kiv-test-gps">
+        <source>Satellite positioning</source>
+        <translation>Satelliittipaikannus</translation>
+    </message>
+    <message id="kiv-test-fm-radio">
+        <source>FM radio</source>
+        <translation>FM-radio</translation>
+    </message>
+    <message id="kiv-test-battery">
+        <source>Battery</source>
+        <translation>Akku</translation>
+    </message>
+    <message id="kiv-test-usb-charging">
+        <source>USB charging</source>
+        <translation>Lataus USB:llä</translation>
+    </message>
+    <message id="kiv-test-led">
+        <source>Notification light</source>
+        <translation>Ilmoitusvalo</translation>
+    </message>
+    <message id="kiv-test-button-backlight">
+        <source>Key illumination</source>
+        <translation>Painikkeiden valo</translation>
+    </message>
+    <message id="kiv-test-vibrator">
+        <source>Vibrator</source>
+        <translation>Värinä</translation>
+    </message>
+    <message id="kiv-test-sim">
+        <source>SIM card</source>
+        <translation>SIM-kortti</translation>
+    </message>
+    <message id="kiv-test-sd-card">
+        <source>Memory card</source>
+        <translation>Muistikortti</translation>
+    </message>
+    <message id="kiv-test-key">
+        <source>Keys</source>
+        <translation>Painikkeet</translation>
+    </message>
+    <message id="kiv-test-usb-otg">
+        <source>USB host</source>
+        <translation>USB-isäntä</translation>
+    </message>
+    <message id="kiv-test-video">
+        <source>Video playback</source>
+        <translation>Videon toisto</translation>
+    </message>
+    <message id="kiv-test-battery-resistance">
+        <source>Battery resistance</source>
+        <translation>Akun sisäinen vastus</translation>
+    </message>
+    <message id="kiv-test-suspend">
+        <source>Suspend</source>
+        <translation>Lepotila</translation>
+    </message>
+    <message id="kiv-test-reboot">
+        <source>Restart</source>
+        <translation>Uudelleenkäynnistys</translation>
+    </message>
+    <message id="kiv-test-cellular-voice">
+        <source>Phone call</source>
+        <translation>Puhelu</translation>
+    </message>
+    <message id="kiv-test-cellular-data">
+        <source>Mobile data</source>
+        <translation>Mobiilidata</translation>
+    </message>
+    <message id="kiv-test-mac-addresses">
+        <source>Network addresses</source>
+        <translation>Verkko-osoitteet</translation>
+    </message>
+    <message id="kiv-test-calibration">
+        <source>Calibration record</source>
+        <translation>Kalibrointitiedot</translation>
+    </message>
+    <message id="kiv-test-sensor-calibration">
+        <source>Sensor calibration</source>
+        <translation>Anturien kalibrointi</translation>
+    </message>
+    <message id="kiv-test-system">
+        <source>System state</source>
+        <translation>Järjestelmän tila</translation>
+    </message>
+    <message id="kiv-battery-charging">
+        <source>Charging</source>
+        <translation>Latautuu</translation>
+    </message>
+    <message id="kiv-battery-discharging">
+        <source>Discharging</source>
+        <translation>Purkautuu</translation>
+    </message>
+    <message id="kiv-battery-not-charging">
+        <source>Not charging</source>
+        <translation>Ei lataudu</translation>
+    </message>
+    <message id="kiv-battery-full">
+        <source>Full</source>
+        <translation>Täynnä</translation>
+    </message>
+    <message id="kiv-battery-unknown">
+        <source>Unknown</source>
+        <translation>Tuntematon</translation>
+    </message>
+    <message id="kiv-battery-health-good">
+        <source>Good</source>
+        <translation>Hyvä</translation>
+    </message>
+    <message id="kiv-battery-health-overheat">
+        <source>Overheated</source>
+        <translation>Ylikuumentunut</translation>
+    </message>
+    <message id="kiv-battery-health-dead">
+        <source>Dead</source>
+        <translation>Käyttökelvoton</translation>
+    </message>
+    <message id="kiv-battery-health-over-voltage">
+        <source>Over voltage</source>
+        <translation>Ylijännite</translation>
+    </message>
+    <message id="kiv-battery-health-failure">
+        <source>Unspecified failure</source>
+        <translation>Määrittelemätön vika</translation>
+    </message>
+    <message id="kiv-battery-health-cold">
+        <source>Cold</source>
+        <translation>Kylmä</translation>
+    </message>
+    <message id="kiv-calibration-instructions">
+        <source>The calibration record that production wrote is compared with what is asked of this product.</source>
+        <translation>Valmistuksessa kirjoitettuja kalibrointitietoja verrataan tämän mallin vaatimuksiin.</translation>
+    </message>
+    <message id="kiv-calibration-hint">
+        <source>Pass unlocks when the record has been read.</source>
+        <translation>Hyväksyminen avautuu, kun tiedot on luettu.</translation>
+    </message>
+    <message id="kiv-calibration-any">
+        <source>must not be empty</source>
+        <translation>ei saa olla tyhjä</translation>
+    </message>
+    <message id="kiv-mac-criteria">
+        <source>must match %1</source>
+        <extracomment>A pattern that an address has to match</extracomment>
+        <translation>oltava muotoa %1</translation>
+    </message>
+    <message id="kiv-calibration-good">
+        <source>The record is as it must be.</source>
+        <translation>Tiedot ovat niin kuin pitää.</translation>
+    </message>
+    <message id="kiv-calibration-flag">
+        <source>Calibration flag</source>
+        <translation>Kalibrointimerkki</translation>
+    </message>
+    <message id="kiv-calibration-text">
+        <source>Calibration text</source>
+        <translation>Kalibrointiteksti</translation>
+    </message>
+    <message id="kiv-mac-instructions">
+        <source>The addresses that production gave to the radios are compared with what is asked of this product.</source>
+        <translation>Valmistuksessa radioille annettuja osoitteita verrataan tämän mallin vaatimuksiin.</translation>
+    </message>
+    <message id="kiv-mac-hint">
+        <source>Pass unlocks when the addresses have been read.</source>
+        <translation>Hyväksyminen avautuu, kun osoitteet on luettu.</translation>
+    </message>
+    <message id="kiv-mac-missing">
+        <source>This phone has neither Bluetooth nor Wi-Fi.</source>
+        <translation>Tässä puhelimessa ei ole Bluetoothia eikä WLANia.</translation>
+    </message>
+    <message id="kiv-mac-good">
+        <source>Every address matches its pattern.</source>
+        <translation>Jokainen osoite on oikeaa muotoa.</translation>
+    </message>
+    <message id="kiv-mac-bluetooth">
+        <source>Bluetooth address</source>
+        <translation>Bluetooth-osoite</translation>
+    </message>
+    <message id="kiv-mac-wireless">
+        <source>Wi-Fi address</source>
+        <translation>WLAN-osoite</translation>
+    </message>
+    <message id="kiv-sensor-accelerometer">
+        <source>Accelerometer</source>
+        <translation>Kiihtyvyysanturi</translation>
+    </message>
+    <message id="kiv-sensor-als">
+        <source>Ambient light</source>
+        <translation>Ympäristön valo</translation>
+    </message>
+    <message id="kiv-sensor-compass">
+        <source>Compass</source>
+        <translation>Kompassi</translation>
+    </message>
+    <message id="kiv-sensor-gyroscope">
+        <source>Gyroscope</source>
+        <translation>Gyroskooppi</translation>
+    </message>
+    <message id="kiv-sensor-humidity">
+        <source>Humidity</source>
+        <translation>Kosteus</translation>
+    </message>
+    <message id="kiv-sensor-lid">
+        <source>Lid</source>
+        <translation>Kansi</translation>
+    </message>
+    <message id="kiv-sensor-magnetometer">
+        <source>Magnetometer</source>
+        <translation>Magnetometri</translation>
+    </message>
+    <message id="kiv-sensor-orientation">
+        <source>Orientation</source>
+        <translation>Asento</translation>
+    </message>
+    <message id="kiv-sensor-pressure">
+        <source>Air pressure</source>
+        <translation>Ilmanpaine</translation>
+    </message>
+    <message id="kiv-sensor-proximity">
+        <source>Proximity</source>
+        <translation>Läheisyys</translation>
+    </message>
+    <message id="kiv-sensor-rotation">
+        <source>Rotation</source>
+        <translation>Kierto</translation>
+    </message>
+    <message id="kiv-sensor-stepcounter">
+        <source>Step counter</source>
+        <translation>Askelmittari</translation>
+    </message>
+    <message id="kiv-sensor-tap">
+        <source>Tap</source>
+        <translation>Napautus</translation>
+    </message>
+    <message id="kiv-sensor-temperature">
+        <source>Temperature</source>
+        <translation>Lämpötila</translation>
+    </message>
+    <message id="kiv-sensor-instructions">
+        <source>Calibrate a sensor, take back its last calibration, or return to the factory&apos;s. Then judge by its values.</source>
+        <translation>Kalibroi anturi, peru viimeisin kalibrointi tai palauta tehdasarvot. Arvioi sitten anturin arvot.</translation>
+    </message>
+    <message id="kiv-sensor-hint">
+        <source>Pass unlocks when a sensor has been calibrated.</source>
+        <translation>Hyväksyminen avautuu, kun jokin anturi on kalibroitu.</translation>
+    </message>
+    <message id="kiv-sensor-working">
+        <source>Asking the sensors for their calibration</source>
+        <translation>Antureilta kysytään kalibrointia</translation>
+    </message>
+    <message id="kiv-sensor-missing">
+        <source>No sensor of this phone can be calibrated.</source>
+        <translation>Mitään tämän puhelimen anturia ei voi kalibroida.</translation>
+    </message>
+    <message id="kiv-sensor-running">
+        <source>Calibrating: %1</source>
+        <translation>Kalibroidaan: %1</translation>
+    </message>
+    <message id="kiv-sensor-done">
+        <source>Done</source>
+        <translation>Valmis</translation>
+    </message>
+    <message id="kiv-sensor-failed">
+        <source>The calibration helper failed. It is not asked again until this page is opened anew.</source>
+        <translation>Kalibrointiohjelma epäonnistui. Sitä ei ajeta uudelleen, ennen kuin tämä sivu avataan uudestaan.</translation>
+    </message>
+    <message id="kiv-sensor-calibrate">
+        <source>Calibrate</source>
+        <translation>Kalibroi</translation>
+    </message>
+    <message id="kiv-sensor-restore">
+        <source>Take back</source>
+        <translation>Peru</translation>
+    </message>
+    <message id="kiv-sensor-reset">
+        <source>Factory values</source>
+        <translation>Tehdasarvot</translation>
+    </message>
+    <message id="kiv-sensor-type">
+        <source>Kind</source>
+        <translation>Laji</translation>
+    </message>
+    <message id="kiv-sensor-representation">
+        <source>Values</source>
+        <translation>Arvot</translation>
+    </message>
+    <message id="kiv-system-instructions">
+        <source>What the system is busy with. The list of processes appears after five seconds.</source>
+        <translation>Mitä järjestelmä tekee. Prosessit näkyvät viiden sekunnin kuluttua.</translation>
+    </message>
+    <message id="kiv-system-start">
+        <source>Running since</source>
+        <translation>Käynnissä alkaen</translation>
+    </message>
+    <message id="kiv-system-load-1">
+        <source>Load, 1 minute</source>
+        <translation>Kuorma, 1 minuutti</translation>
+    </message>
+    <message id="kiv-system-load-5">
+        <source>Load, 5 minutes</source>
+        <translation>Kuorma, 5 minuuttia</translation>
+    </message>
+    <message id="kiv-system-load-15">
+        <source>Load, 15 minutes</source>
+        <translation>Kuorma, 15 minuuttia</translation>
+    </message>
+    <message id="kiv-system-process">
+        <source>%1 (%2)</source>
+        <extracomment>A process: its name and its number</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message id="kiv-reason-reading">
+        <source>%1: %2 (%3)</source>
+        <extracomment>A reading that is not as it should be: its name, its value, what is wrong with it</extracomment>
+        <translation>%1: %2 (%3)</translation>
+    </message>
+    <message id="kiv-touch-self-instructions">
+        <source>The touch controller tests itself. Keep fingers off the panel.</source>
+        <translation>Kosketusnäyttö testaa itsensä. Älä koske siihen.</translation>
+    </message>
+    <message id="kiv-touch-self-hint">
+        <source>Pass unlocks when the controller has answered.</source>
+        <translation>Hyväksyminen avautuu, kun kosketusnäyttö on vastannut.</translation>
+    </message>
+    <message id="kiv-touch-self-missing">
+        <source>The touch controller of this phone has no self-test.</source>
+        <translation>Tämän puhelimen kosketusnäytössä ei ole itsetestiä.</translation>
+    </message>
+    <message id="kiv-touch-self-good">
+        <source>The controller reports that it is in order.</source>
+        <translation>Kosketusnäyttö ilmoittaa olevansa kunnossa.</translation>
+    </message>
+    <message id="kiv-touch-self-bad">
+        <source>The controller reports a fault or gives no report.</source>
+        <translation>Kosketusnäyttö ilmoittaa viasta tai ei vastaa.</translation>
+    </message>
+    <message id="kiv-touch-self-outcome">
+        <source>Self-test in order</source>
+        <translation>Itsetesti kunnossa</translation>
+    </message>
+    <message id="kiv-battery-missing">
+        <source>No battery was found.</source>
+        <translation>Akkua ei löytynyt.</translation>
+    </message>
+    <message id="kiv-battery-instructions">
+        <source>Nothing to do: the phone reads its battery.</source>
+        <translation>Mitään ei tarvitse tehdä: puhelin lukee akkunsa tiedot.</translation>
+    </message>
+    <message id="kiv-battery-hint">
+        <source>Pass unlocks when the battery has been read.</source>
+        <translation>Hyväksyminen avautuu, kun akku on luettu.</translation>
+    </message>
+    <message id="kiv-battery-good">
+        <source>Every reading with a limit is within it.</source>
+        <translation>Jokainen rajattu lukema on rajoissaan.</translation>
+    </message>
+    <message id="kiv-battery-present">
+        <source>Battery in place</source>
+        <translation>Akku paikallaan</translation>
+    </message>
+    <message id="kiv-battery-status">
+        <source>State</source>
+        <translation>Tila</translation>
+    </message>
+    <message id="kiv-battery-health">
+        <source>Health</source>
+        <translation>Kunto</translation>
+    </message>
+    <message id="kiv-battery-voltage">
+        <source>Voltage</source>
+        <translation>Jännite</translation>
+    </message>
+    <message id="kiv-battery-current">
+        <source>Current</source>
+        <translation>Virta</translation>
+    </message>
+    <message id="kiv-battery-temperature">
+        <source>Temperature</source>
+        <translation>Lämpötila</translation>
+    </message>
+    <message id="kiv-battery-energy">
+        <source>Energy left</source>
+        <translation>Energiaa jäljellä</translation>
+    </message>
+    <message id="kiv-battery-wear">
+        <source>Capacity compared to new</source>
+        <translation>Kapasiteetti uuteen verrattuna</translation>
+    </message>
+    <message id="kiv-ecompass-good">
+        <source>The compass followed a whole turn.</source>
+        <translation>Kompassi seurasi täyttä kierrosta.</translation>
+    </message>
+    <message id="kiv-ecompass-instructions">
+        <source>Keep the phone level and turn around once. If it sticks, draw a large eight in the air with the phone first.</source>
+        <translation>Pidä puhelin vaakasuorassa ja käänny kerran ympäri. Jos kompassi jumittaa, piirrä puhelimella ensin suuri kahdeksikko ilmaan.</translation>
+    </message>
+    <message id="kiv-ecompass-hint">
+        <source>Pass unlocks when the compass followed a whole turn.</source>
+        <translation>Hyväksyminen avautuu, kun kompassi on seurannut täyttä kierrosta.</translation>
+    </message>
+    <message id="kiv-ecompass-missing">
+        <source>No compass was found.</source>
+        <translation>Kompassia ei löytynyt.</translation>
+    </message>
+    <message id="kiv-ecompass-heading">
+        <source>Heading</source>
+        <translation>Suunta</translation>
+    </message>
+    <message id="kiv-ecompass-directions">
+        <source>Directions seen</source>
+        <translation>Havaitut suunnat</translation>
+    </message>
+    <message id="kiv-ecompass-level">
+        <source>Calibration level</source>
+        <translation>Kalibroinnin taso</translation>
+    </message>
+    <message id="kiv-gyro-good">
+        <source>Averages of 32 samples are within their limits.</source>
+        <translation>32 mittauksen keskiarvot ovat rajoissa.</translation>
+    </message>
+    <message id="kiv-gyro-instructions">
+        <source>Lay the phone flat on a table, the display up, and do not touch the table.</source>
+        <translation>Aseta puhelin pöydälle näyttö ylöspäin äläkä koske pöytään.</translation>
+    </message>
+    <message id="kiv-gyro-hint">
+        <source>Pass unlocks when the sensors have been measured.</source>
+        <translation>Hyväksyminen avautuu, kun anturit on mitattu.</translation>
+    </message>
+    <message id="kiv-gyro-missing">
+        <source>This phone has neither an accelerometer nor a gyroscope.</source>
+        <translation>Tässä puhelimessa ei ole kiihtyvyysanturia eikä gyroskooppia.</translation>
+    </message>
+    <message id="kiv-gyro-measure">
+        <source>It lies flat: measure now</source>
+        <translation>Se on vaakasuorassa: mittaa nyt</translation>
+    </message>
+    <message id="kiv-gyro-progress">
+        <source>Measuring: %1 of %2</source>
+        <translation>Mitataan: %1/%2</translation>
+    </message>
+    <message id="kiv-gyro-acceleration-x">
+        <source>Acceleration X</source>
+        <translation>Kiihtyvyys X</translation>
+    </message>
+    <message id="kiv-gyro-acceleration-y">
+        <source>Acceleration Y</source>
+        <translation>Kiihtyvyys Y</translation>
+    </message>
+    <message id="kiv-gyro-acceleration-z">
+        <source>Acceleration Z</source>
+        <translation>Kiihtyvyys Z</translation>
+    </message>
+    <message id="kiv-gyro-rotation-x">
+        <source>Rotation X</source>
+        <translation>Kierto X</translation>
+    </message>
+    <message id="kiv-gyro-rotation-y">
+        <source>Rotation Y</source>
+        <translation>Kierto Y</translation>
+    </message>
+    <message id="kiv-gyro-rotation-z">
+        <source>Rotation Z</source>
+        <translation>Kierto Z</translation>
+    </message>
+    <message id="kiv-gyro-rotation">
+        <source>Gyroscope in order</source>
+        <translation>Gyroskooppi kunnossa</translation>
+    </message>
+    <message id="kiv-hall-good">
+        <source>The switch saw the magnet come and go.</source>
+        <translation>Kytkin havaitsi magneetin tulon ja lähdön.</translation>
+    </message>
+    <message id="kiv-hall-hint">
+        <source>Pass unlocks when the magnet was seen to come and go.</source>
+        <translation>Hyväksyminen avautuu, kun magneetti on tullut ja lähtenyt.</translation>
+    </message>
+    <message id="kiv-hall-missing">
+        <source>This phone has no magnet switch.</source>
+        <translation>Tässä puhelimessa ei ole magneettikytkintä.</translation>
+    </message>
+    <message id="kiv-hall-step-close">
+        <source>Hold a magnet or a closed cover to the phone</source>
+        <translation>Pidä magneettia tai suljettua kantta puhelinta vasten</translation>
+    </message>
+    <message id="kiv-hall-step-open">
+        <source>Take it away</source>
+        <translation>Ota se pois</translation>
+    </message>
+    <message id="kiv-hall-magnet">
+        <source>Magnet at the switch</source>
+        <translation>Magneetti kytkimellä</translation>
+    </message>
+    <message id="kiv-headset-headset">
+        <source>Headset</source>
+        <translation>Kuulokemikrofoni</translation>
+    </message>
+    <message id="kiv-headset-headphones">
+        <source>Headphones without microphone</source>
+        <translation>Kuulokkeet ilman mikrofonia</translation>
+    </message>
+    <message id="kiv-headset-microphone">
+        <source>Microphone only</source>
+        <translation>Vain mikrofoni</translation>
+    </message>
+    <message id="kiv-headset-empty">
+        <source>Empty</source>
+        <translation>Tyhjä</translation>
+    </message>
+    <message id="kiv-headset-good">
+        <source>The socket was seen empty and with a headset.</source>
+        <translation>Liitäntä nähtiin tyhjänä ja kuulokemikrofonin kanssa.</translation>
+    </message>
+    <message id="kiv-headset-hint">
+        <source>Pass unlocks when the socket was seen empty and with a headset.</source>
+        <translation>Hyväksyminen avautuu, kun liitäntä on nähty tyhjänä ja kuulokemikrofonin kanssa.</translation>
+    </message>
+    <message id="kiv-headset-missing">
+        <source>No headset socket was found.</source>
+        <translation>Kuulokeliitäntää ei löytynyt.</translation>
+    </message>
+    <message id="kiv-headset-step-empty">
+        <source>Take everything out of the headset socket</source>
+        <translation>Irrota kaikki kuulokeliitännästä</translation>
+    </message>
+    <message id="kiv-headset-step-plug">
+        <source>Plug a headset with a microphone in</source>
+        <translation>Kytke kuulokkeet, joissa on mikrofoni</translation>
+    </message>
+    <message id="kiv-headset-socket">
+        <source>Headset socket</source>
+        <translation>Kuulokeliitäntä</translation>
+    </message>
+    <message id="kiv-headset-buttons-media">
+        <source>Media</source>
+        <extracomment>A key of a headset</extracomment>
+        <translation>Media</translation>
+    </message>
+    <message id="kiv-headset-buttons-play">
+        <source>Play/Pause</source>
+        <extracomment>A key of a headset</extracomment>
+        <translation>Toisto/tauko</translation>
+    </message>
+    <message id="kiv-headset-buttons-good">
+        <source>Every button that the phone knows was pressed and let go.</source>
+        <translation>Jokaista puhelimen tuntemaa painiketta painettiin.</translation>
+    </message>
+    <message id="kiv-headset-buttons-instructions">
+        <source>Plug the headset in and press each of its buttons once.</source>
+        <translation>Kytke kuulokkeet ja paina jokaista painiketta kerran.</translation>
+    </message>
+    <message id="kiv-headset-buttons-hint">
+        <source>Pass unlocks when a button was pressed and let go.</source>
+        <translation>Hyväksyminen avautuu, kun jotakin painiketta on painettu ja se on vapautettu.</translation>
+    </message>
+    <message id="kiv-headset-buttons-missing">
+        <source>No headset buttons were found.</source>
+        <translation>Kuulokkeiden painikkeita ei löytynyt.</translation>
+    </message>
+    <message id="kiv-headset-buttons-pressed">
+        <source>Buttons pressed</source>
+        <translation>Painetut painikkeet</translation>
+    </message>
+    <message id="kiv-headset-buttons-known">
+        <source>the phone knows %1</source>
+        <extracomment>How many buttons the phone can tell apart</extracomment>
+        <translation>puhelin tuntee %1</translation>
+    </message>
+    <message id="kiv-key-good">
+        <source>Every key was pressed and let go.</source>
+        <translation>Jokaista painiketta painettiin ja se vapautettiin.</translation>
+    </message>
+    <message id="kiv-key-instructions">
+        <source>Press each key once and let it go.</source>
+        <translation>Paina jokaista painiketta kerran ja vapauta se.</translation>
+    </message>
+    <message id="kiv-key-hint">
+        <source>Pass unlocks when every key was pressed and let go.</source>
+        <translation>Hyväksyminen avautuu, kun jokaista painiketta on painettu ja se on vapautettu.</translation>
+    </message>
+    <message id="kiv-key-missing">
+        <source>No key of this phone is configured for the test.</source>
+        <translation>Tälle puhelimelle ei ole määritetty testattavia painikkeita.</translation>
+    </message>
+    <message id="kiv-key-held">
+        <source>held</source>
+        <translation>painettuna</translation>
+    </message>
+    <message id="kiv-key-waiting">
+        <source>not yet pressed</source>
+        <translation>ei vielä painettu</translation>
+    </message>
+    <message id="kiv-light-good">
+        <source>The sensor told dark from bright.</source>
+        <translation>Anturi erotti pimeän valoisasta.</translation>
+    </message>
+    <message id="kiv-light-instructions">
+        <source>Cover the sensor above the display with a finger, then hold it to the light.</source>
+        <translation>Peitä näytön yläpuolella oleva anturi sormella ja pidä sitä sitten valoa kohti.</translation>
+    </message>
+    <message id="kiv-light-hint">
+        <source>Pass unlocks when the sensor told dark from bright.</source>
+        <translation>Hyväksyminen avautuu, kun anturi on erottanut pimeän valoisasta.</translation>
+    </message>
+    <message id="kiv-light-missing">
+        <source>No light sensor was found.</source>
+        <translation>Valoanturia ei löytynyt.</translation>
+    </message>
+    <message id="kiv-light-now">
+        <source>Brightness</source>
+        <translation>Kirkkaus</translation>
+    </message>
+    <message id="kiv-light-darkest">
+        <source>Darkest</source>
+        <translation>Pimeimmillään</translation>
+    </message>
+    <message id="kiv-light-brightest">
+        <source>Brightest</source>
+        <translation>Kirkkaimmillaan</translation>
+    </message>
+    <message id="kiv-multi-touch-good">
+        <source>The panel told %1 fingers apart.</source>
+        <translation>Kosketusnäyttö erotti %1 sormea.</translation>
+    </message>
+    <message id="kiv-multi-touch-bad">
+        <source>The panel did not tell two fingers apart.</source>
+        <translation>Kosketusnäyttö ei erottanut kahta sormea.</translation>
+    </message>
+    <message id="kiv-multi-touch-instructions">
+        <source>Put five fingers on the panel at once.</source>
+        <translation>Aseta viisi sormea yhtä aikaa näytölle.</translation>
+    </message>
+    <message id="kiv-multi-touch-hint">
+        <source>Pass unlocks when two fingers have been told apart.</source>
+        <translation>Hyväksyminen avautuu, kun kaksi sormea on erotettu.</translation>
+    </message>
+    <message id="kiv-multi-touch-count">
+        <source>%1 of %2</source>
+        <extracomment>How many fingers were seen, and how many are wanted</extracomment>
+        <translation>%1/%2</translation>
+    </message>
+    <message id="kiv-multi-touch-patience">
+        <source>Ends %1 s after the last touch</source>
+        <translation>Päättyy %1 s viimeisestä kosketuksesta</translation>
+    </message>
+    <message id="kiv-multi-touch-seen">
+        <source>Fingers at once</source>
+        <translation>Sormia yhtä aikaa</translation>
+    </message>
+    <message id="kiv-prox-good">
+        <source>The sensor saw the hand come and go.</source>
+        <translation>Anturi havaitsi käden tulon ja lähdön.</translation>
+    </message>
+    <message id="kiv-prox-hint">
+        <source>Pass unlocks when the hand was seen to come and go.</source>
+        <translation>Hyväksyminen avautuu, kun käsi on tullut ja lähtenyt.</translation>
+    </message>
+    <message id="kiv-prox-missing">
+        <source>No proximity sensor was found.</source>
+        <translation>Läheisyysanturia ei löytynyt.</translation>
+    </message>
+    <message id="kiv-prox-step-near">
+        <source>Hold a hand over the top of the display</source>
+        <translation>Pidä kättä näytön yläosan päällä</translation>
+    </message>
+    <message id="kiv-prox-step-far">
+        <source>Take the hand away</source>
+        <translation>Ota käsi pois</translation>
+    </message>
+    <message id="kiv-prox-near">
+        <source>Something near</source>
+        <translation>Jotakin lähellä</translation>
+    </message>
+    <message id="kiv-sd-card-none">
+        <source>No card</source>
+        <translation>Ei korttia</translation>
+    </message>
+    <message id="kiv-sd-card-unmounted">
+        <source>Not mounted</source>
+        <translation>Ei liitetty</translation>
+    </message>
+    <message id="kiv-sd-card-mounting">
+        <source>Being mounted</source>
+        <translation>Liitetään</translation>
+    </message>
+    <message id="kiv-sd-card-mounted">
+        <source>Mounted</source>
+        <translation>Liitetty</translation>
+    </message>
+    <message id="kiv-sd-card-unmounting">
+        <source>Being unmounted</source>
+        <translation>Irrotetaan</translation>
+    </message>
+    <message id="kiv-sd-card-not-created">
+        <source>No file could be created on the card.</source>
+        <translation>Kortille ei voitu luoda tiedostoa.</translation>
+    </message>
+    <message id="kiv-sd-card-differs">
+        <source>What was read is not what was written.</source>
+        <translation>Luettu ei ole sama kuin kirjoitettu.</translation>
+    </message>
+    <message id="kiv-sd-card-good">
+        <source>A file was written, read back and removed.</source>
+        <translation>Tiedosto kirjoitettiin, luettiin takaisin ja poistettiin.</translation>
+    </message>
+    <message id="kiv-sd-card-working">
+        <source>Writing and reading the card</source>
+        <translation>Korttia kirjoitetaan ja luetaan</translation>
+    </message>
+    <message id="kiv-sd-card-failed">
+        <source>failed</source>
+        <translation>epäonnistui</translation>
+    </message>
+    <message id="kiv-sd-card-instructions-insert">
+        <source>Put a memory card into the slot.</source>
+        <translation>Aseta muistikortti paikalleen.</translation>
+    </message>
+    <message id="kiv-sd-card-instructions">
+        <source>The card is tested as soon as it is mounted.</source>
+        <translation>Kortti testataan heti, kun se on liitetty.</translation>
+    </message>
+    <message id="kiv-sd-card-hint">
+        <source>Pass unlocks when the card has been written and read.</source>
+        <translation>Hyväksyminen avautuu, kun kortti on kirjoitettu ja luettu.</translation>
+    </message>
+    <message id="kiv-sd-card-missing">
+        <source>There is no card in the slot.</source>
+        <translation>Korttipaikassa ei ole korttia.</translation>
+    </message>
+    <message id="kiv-page-missing-advice">
+        <source>If the phone is meant to be without it, choose Not applicable.</source>
+        <translation>Jos puhelimessa ei kuulukaan olla tätä, valitse Ei koske.</translation>
+    </message>
+    <message id="kiv-sd-card-mount-failed">
+        <source>A card could not be mounted: it may be damaged or have no file system.</source>
+        <translation>Korttia ei voitu liittää: se on vioittunut tai siinä ei ole tiedostojärjestelmää.</translation>
+    </message>
+    <message id="kiv-sd-card-state">
+        <source>Card</source>
+        <translation>Kortti</translation>
+    </message>
+    <message id="kiv-sd-card-outcome">
+        <source>Write and read</source>
+        <translation>Kirjoitus ja luku</translation>
+    </message>
+    <message id="kiv-touch-good">
+        <source>Every part of the panel has reacted.</source>
+        <translation>Näytön jokainen kohta reagoi.</translation>
+    </message>
+    <message id="kiv-touch-bad">
+        <source>Parts of the panel did not react: %1 of %2</source>
+        <translation>Osa näytöstä ei reagoinut: %1/%2</translation>
+    </message>
+    <message id="kiv-touch-instructions">
+        <source>Wipe over the whole panel until no cell is left.</source>
+        <translation>Pyyhi koko näyttöä, kunnes ruutuja ei ole jäljellä.</translation>
+    </message>
+    <message id="kiv-touch-hint">
+        <source>Pass unlocks when every cell has been wiped.</source>
+        <translation>Hyväksyminen avautuu, kun jokainen ruutu on pyyhitty.</translation>
+    </message>
+    <message id="kiv-touch-patience">
+        <source>Ends %1 s after the last new cell</source>
+        <translation>Päättyy %1 s viimeisestä uudesta ruudusta</translation>
+    </message>
+    <message id="kiv-touch-reacted">
+        <source>Cells that reacted</source>
+        <translation>Reagoineet ruudut</translation>
+    </message>
+    <message id="kiv-charging-missing">
+        <source>No battery was found, so charging cannot be observed.</source>
+        <translation>Akkua ei löytynyt, joten latausta ei voi seurata.</translation>
+    </message>
+    <message id="kiv-charging-switching-off">
+        <source>Switching the charger off</source>
+        <translation>Lataus kytketään pois</translation>
+    </message>
+    <message id="kiv-charging-switching-on">
+        <source>Switching the charger on</source>
+        <translation>Lataus kytketään päälle</translation>
+    </message>
+    <message id="kiv-charging-good">
+        <source>Charging stopped and resumed as it was switched.</source>
+        <translation>Lataus loppui ja jatkui, kuten kytkettiin.</translation>
+    </message>
+    <message id="kiv-charging-hint">
+        <source>Pass unlocks when the charger has been switched off and on.</source>
+        <translation>Hyväksyminen avautuu, kun lataus on kytketty pois ja päälle.</translation>
+    </message>
+    <message id="kiv-charging-step-plug">
+        <source>Plug a charger into the USB socket</source>
+        <translation>Kytke laturi USB-liitäntään</translation>
+    </message>
+    <message id="kiv-charging-step-on">
+        <source>The phone charges: wait</source>
+        <translation>Puhelin latautuu: odota</translation>
+    </message>
+    <message id="kiv-charging-step-off">
+        <source>Charger switched off: charging stops</source>
+        <translation>Lataus kytketty pois: se loppuu</translation>
+    </message>
+    <message id="kiv-charging-step-again">
+        <source>Charger switched on: charging resumes</source>
+        <translation>Lataus kytketty päälle: se jatkuu</translation>
+    </message>
+    <message id="kiv-charging-current-on">
+        <source>Current, charger on</source>
+        <translation>Virta, lataus päällä</translation>
+    </message>
+    <message id="kiv-charging-current-off">
+        <source>Current, charger off</source>
+        <translation>Virta, lataus pois</translation>
+    </message>
+    <message id="kiv-charging-stops">
+        <source>Charging stops</source>
+        <translation>Lataus loppuu</translation>
+    </message>
+    <message id="kiv-charging-resumes">
+        <source>Charging resumes</source>
+        <translation>Lataus jatkuu</translation>
+    </message>
+    <message id="kiv-vibrator-good">
+        <source>The operator felt the pulses that were given: %1</source>
+        <translation>Testaaja tunsi annetut värähdykset: %1</translation>
+    </message>
+    <message id="kiv-vibrator-bad">
+        <source>Pulses given: %1, felt: %2</source>
+        <translation>Värähdyksiä annettu: %1, tunnettu: %2</translation>
+    </message>
+    <message id="kiv-vibrator-instructions">
+        <source>Hold the phone in the hand and count the pulses.</source>
+        <translation>Pidä puhelinta kädessä ja laske värähdykset.</translation>
+    </message>
+    <message id="kiv-vibrator-hint">
+        <source>Pass unlocks when you have said how many pulses you felt.</source>
+        <translation>Hyväksyminen avautuu, kun olet kertonut, montako värähdystä tunsit.</translation>
+    </message>
+    <message id="kiv-vibrator-missing">
+        <source>No vibrator was found.</source>
+        <translation>Värinämoottoria ei löytynyt.</translation>
+    </message>
+    <message id="kiv-vibrator-question">
+        <source>How many pulses did you feel?</source>
+        <translation>Montako värähdystä tunsit?</translation>
+    </message>
+    <message id="kiv-vibrator-again">
+        <source>Give the pulses again</source>
+        <translation>Toista värähdykset</translation>
+    </message>
+    <message id="kiv-disclaimer-title">
+        <source>Before you begin</source>
+        <translation>Ennen kuin aloitat</translation>
+    </message>
+    <message id="kiv-quit">
+        <source>Quit</source>
+        <translation>Lopeta</translation>
+    </message>
+    <message id="kiv-disclaimer-accept">
+        <source>I have read this</source>
+        <translation>Olen lukenut tämän</translation>
+    </message>
+    <message id="kiv-ap-name">
+        <source>Kiv</source>
+        <translation>Kiv</translation>
+    </message>
+    <message id="kiv-home-subtitle">
+        <source>Hardware tests</source>
+        <translation>Laitteistotestit</translation>
+    </message>
+    <message id="kiv-home-settings">
+        <source>This phone and settings</source>
+        <translation>Tämä puhelin ja asetukset</translation>
+    </message>
+    <message id="kiv-home-question">
+        <source>Which tests do you want to run?</source>
+        <translation>Mitkä testit haluat ajaa?</translation>
+    </message>
+    <message id="kiv-mode-factory">
+        <source>Factory sequence</source>
+        <translation>Tehdastestit</translation>
+    </message>
+    <message id="kiv-mode-factory-detail">
+        <source>Every part of the phone once, in a fixed order</source>
+        <translation>Puhelimen jokainen osa kerran, määrätyssä järjestyksessä</translation>
+    </message>
+    <message id="kiv-mode-run-in">
+        <source>Run-in</source>
+        <translation>Sisäänajo</translation>
+    </message>
+    <message id="kiv-mode-run-in-detail">
+        <source>Endurance tests for a new phone</source>
+        <translation>Kestotestit uudelle puhelimelle</translation>
+    </message>
+    <message id="kiv-mode-all">
+        <source>All tests</source>
+        <translation>Kaikki testit</translation>
+    </message>
+    <message id="kiv-mode-all-detail">
+        <source>Everything this phone has, one by one or in a row</source>
+        <translation>Kaikki, mitä tässä puhelimessa on, yksitellen tai peräkkäin</translation>
+    </message>
+    <message id="kiv-list-subtitle">
+        <source>%1 of %2 tests can run here</source>
+        <extracomment>How many of the tests of the sequence can be run on this phone</extracomment>
+        <translation>%1/%2 testiä voidaan ajaa</translation>
+    </message>
+    <message id="kiv-list-absent">
+        <source>Not on this phone</source>
+        <translation>Ei tässä puhelimessa</translation>
+    </message>
+    <message id="kiv-list-unwritten">
+        <source>Not available yet</source>
+        <translation>Ei vielä saatavilla</translation>
+    </message>
+    <message id="kiv-summary">
+        <source>Summary</source>
+        <translation>Yhteenveto</translation>
+    </message>
+    <message id="kiv-list-continue">
+        <source>Go on, %1 left</source>
+        <translation>Jatka, %1 jäljellä</translation>
+    </message>
+    <message id="kiv-list-start">
+        <source>Start</source>
+        <translation>Aloita</translation>
+    </message>
+    <message id="kiv-settings-4g">
+        <source>Modem prefers 4G</source>
+        <translation>Modeemi suosii 4G:tä</translation>
+    </message>
+    <message id="kiv-settings-title">
+        <source>This phone</source>
+        <translation>Tämä puhelin</translation>
+    </message>
+    <message id="kiv-settings-light">
+        <source>Light colours</source>
+        <translation>Vaaleat värit</translation>
+    </message>
+    <message id="kiv-settings-dark">
+        <source>Dark colours</source>
+        <translation>Tummat värit</translation>
+    </message>
+    <message id="kiv-settings-disclaimer">
+        <source>Read the notice again</source>
+        <translation>Lue ilmoitus uudelleen</translation>
+    </message>
+    <message id="kiv-summary-overruled">
+        <source>Overruled by the operator; measured: %1</source>
+        <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows</extracomment>
+        <translation>Testaaja kumosi mittauksen tuloksen: %1</translation>
+    </message>
+    <message id="kiv-summary-attempts">
+        <source>Attempts: %1</source>
+        <translation>Yrityksiä: %1</translation>
+    </message>
+    <message id="kiv-summary-incomplete">
+        <source>Not complete</source>
+        <translation>Kesken</translation>
+    </message>
+    <message id="kiv-summary-retest">
+        <source>Retest failed</source>
+        <translation>Testaa hylätyt uudelleen</translation>
+    </message>
+    <message id="kiv-summary-list">
+        <source>Back to the list</source>
+        <translation>Takaisin luetteloon</translation>
+    </message>
+    <message id="kiv-summary-next">
+        <source>Next phone</source>
+        <translation>Seuraava puhelin</translation>
+    </message>
+    <message id="kiv-page-broken">
+        <source>This test cannot be opened on this phone.</source>
+        <translation>Tätä testiä ei voi avata tässä puhelimessa.</translation>
+    </message>
+    <message id="kiv-test-leave">
+        <source>Leave this test</source>
+        <translation>Poistu testistä</translation>
+    </message>
+    <message id="kiv-test-progress">
+        <source>%1 of %2, about %3 min left</source>
+        <extracomment>Place in the sequence and the time it still takes</extracomment>
+        <translation>%1/%2, vielä noin %3 min</translation>
+    </message>
+    <message id="kiv-test-retry">
+        <source>Try again</source>
+        <translation>Yritä uudelleen</translation>
+    </message>
+    <message id="kiv-page-guided">
+        <source>You judge this one: the phone cannot see the result itself.</source>
+        <translation>Tämän arvioit itse: puhelin ei näe tulosta.</translation>
+    </message>
+    <message id="kiv-verdict-fail">
+        <source>Fail</source>
+        <translation>Hylkää</translation>
+    </message>
+    <message id="kiv-verdict-pass">
+        <source>Pass</source>
+        <translation>Hyväksy</translation>
+    </message>
+    <message id="kiv-verdict-hold">
+        <source>Hold Pass until it has filled up</source>
+        <translation>Pidä Hyväksy-painiketta, kunnes se täyttyy</translation>
+    </message>
+    <message id="kiv-working-probing">
+        <source>Checking what this phone has</source>
+        <translation>Selvitetään, mitä tässä puhelimessa on</translation>
+    </message>
+</context>
+</TS>
