@@ -57,6 +57,7 @@ private Q_SLOTS:
     void looksAtFilesButNotAtFolders();
     void doesNotWaitForTheWriterOfAFifo();
     void keepsValueWithoutDevice();
+    void closesDeviceThatQualifiesNoMore();
     void survivesMissingFolder();
 
     void tellsClosedCoverWhileOpening();
@@ -318,6 +319,21 @@ void tst_HallDetect::keepsValueWithoutDevice()
     QCOMPARE(spy.count(), 1);
     QVERIFY(!hall.findChild<QSocketNotifier *>());
     QCOMPARE(log.all(), QStringList());
+}
+
+void tst_HallDetect::closesDeviceThatQualifiesNoMore()
+{
+    InputDevice device = lidSwitch("event0", true);
+    HallDetect hall;
+    hall.openFile();
+    QVERIFY(hall.hall());
+    device.failIoctl(EVIOCGBIT(0, 0), EIO);
+    MessageLog log;
+    hall.openFile();
+    QCOMPARE(log.warnings().size(), 1);
+    QCOMPARE(device.readers(), 0);
+    QVERIFY(hall.children().isEmpty());
+    QVERIFY(hall.hall());
 }
 
 void tst_HallDetect::survivesMissingFolder()
