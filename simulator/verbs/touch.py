@@ -2,6 +2,7 @@
 """Commands for the touch controller."""
 
 import os
+import stat
 
 from commands import Command, Failure
 
@@ -9,16 +10,40 @@ SELF_TEST = '/sys/kernel/debug/tp_s3202_dbg/tp_self_test'
 RESULTS = {'pass': '0', 'fail': '1'}
 
 
-def self_test(phone, result):
-    if result in RESULTS:
-        phone.write(SELF_TEST, RESULTS[result])
-    elif result != 'missing':
-        raise Failure('say pass, fail or missing')
-    elif os.path.exists(SELF_TEST):
-        phone.check_is_phones(SELF_TEST)
+def remove():
+    if os.path.lexists(SELF_TEST):
         os.unlink(SELF_TEST)
 
 
+def waiting_readers():
+    """A descriptor to those who read while the controller is busy; None if nobody does."""
+    if not os.path.exists(SELF_TEST) or not stat.S_ISFIFO(os.stat(SELF_TEST).st_mode):
+        return None
+    try:
+        return os.open(SELF_TEST, os.O_WRONLY | os.O_NONBLOCK)
+    except OSError:
+        return None
+
+
+def self_test(phone, result):
+    if result not in (*RESULTS, 'busy', 'missing'):
+        raise Failure('say pass, fail, busy or missing')
+    phone.check_is_phones(SELF_TEST)
+    if result in RESULTS:
+        readers = waiting_readers()
+        phone.write(SELF_TEST, RESULTS[result])
+        if readers is not None:
+            os.write(readers, RESULTS[result].encode() + b'\n')
+            os.close(readers)
+        return
+    remove()
+    if result == 'busy':
+        os.makedirs(os.path.dirname(SELF_TEST), exist_ok=True)
+        os.mkfifo(SELF_TEST)
+        os.chmod(SELF_TEST, 0o644)
+
+
 COMMANDS = [
-    Command('touch self-test', 'pass|fail|missing', 'what the self-test of the touch controller finds', self_test),
+    Command('touch self-test', 'pass|fail|busy|missing', 'what the self-test of the touch controller finds; while it is '
+            'busy, who asks has to wait', self_test),
 ]
