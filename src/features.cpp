@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "features.h"
 
+#include "dbuscall.h"
 #include "runchild.h"
 #include "settingsloader.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDebug>
 #include <QFeedbackEffect>
 #include <QFileInfo>
+#include <QThread>
 
 namespace
 {
@@ -112,6 +114,7 @@ const QString FingerprintState = QStringLiteral("/var/lib/kestrane-fpd");
 const QString OfonoService = QStringLiteral("org.ofono");
 const QString OfonoPath = QStringLiteral("/");
 const QString OfonoManager = QStringLiteral("org.ofono.Manager");
+constexpr unsigned long PollMicroseconds = 500;
 const QString ModemListSignature = QStringLiteral("a(oa{sv})");
 
 QString qualifiedName(const QString &feature, const QString &test)
@@ -158,19 +161,32 @@ bool hasFmRadio()
         .succeeded();
 }
 
+/*! The reply or error; of type InvalidMessage when the bus went away before there was one. */
+QDBusMessage callAndWait(const QDBusConnection &bus, const QDBusMessage &message)
+{
+    const QDBusPendingCall call = callRunningService(bus, message);
+    // Qt's own blocking call never returns when the bus ends meanwhile. All else ends with the default timeout.
+    while (!call.isFinished() && bus.isConnected())
+        QThread::usleep(PollMicroseconds);
+    return call.reply();
+}
+
+bool isAbsence(const QDBusMessage &reply)
+{
+    const QDBusError::ErrorType error = QDBusError(reply).type();
+    return error == QDBusError::Disconnected || error == QDBusError::ServiceUnknown
+        || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");
+}
+
 bool hasModem()
 {
-    const QDBusConnection bus = QDBusConnection::systemBus();
-    const QDBusConnectionInterface *const daemon = bus.interface();
-    if (!daemon || !daemon->isServiceRegistered(OfonoService).value()) {
+    const QDBusMessage reply =
+        callAndWait(QDBusConnection::systemBus(),
+                    QDBusMessage::createMethodCall(OfonoService, OfonoPath, OfonoManager, QStringLiteral("GetModems")));
+    if (isAbsence(reply)) {
         qDebug() << "No ofono interface registered";
         return false;
     }
-
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(OfonoService, OfonoPath, OfonoManager, QStringLiteral("GetModems"));
-    call.setAutoStartService(false);
-    const QDBusMessage reply = bus.call(call);
     // Qt crashes on some replies that are taken apart as something else than they are.
     if (reply.type() != QDBusMessage::ReplyMessage || !reply.signature().startsWith(ModemListSignature)) {
         qDebug() << "Failed to GetModems";

@@ -13,7 +13,8 @@ const QString Interface = QStringLiteral("org.freedesktop.Geoclue");
 }
 
 Gps::Gps(QObject *parent)
-    : QObject(parent), m_serviceWatcher(new QDBusServiceWatcher(this)),
+    : QObject(parent),
+      m_serviceWatcher(new QDBusServiceWatcher(this)),
       m_satelliteSource(QGeoSatelliteInfoSource::createDefaultSource(this))
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();

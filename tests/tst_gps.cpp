@@ -81,8 +81,7 @@ struct Watched
 {
     Watched()
     {
-        QObject::connect(&gps, &Gps::statusChanged, &gps,
-                         [this] { statuses << int(gps.status()); });
+        QObject::connect(&gps, &Gps::statusChanged, &gps, [this] { statuses << int(gps.status()); });
         QObject::connect(&gps, &Gps::satelliteInfoErrorChanged, &gps,
                          [this] { seen << QStringLiteral("error %1").arg(gps.satelliteInfoError()); });
         QObject::connect(&gps, &Gps::satellitesInViewChanged, &gps,
@@ -458,18 +457,18 @@ void tst_Gps::followsTheSky()
     Watched watched;
     QTRY_COMPARE(watched.seen.count(), 4);
     QCOMPARE(watched.takeSeen(),
-             QStringList({QStringLiteral("info"), QStringLiteral("view 2"), QStringLiteral("info"),
-                          QStringLiteral("use 1")}));
+             QStringList(
+                 {QStringLiteral("info"), QStringLiteral("view 2"), QStringLiteral("info"), QStringLiteral("use 1")}));
     QCOMPARE(watched.gps.satelliteInfo(), QVariantList({entry(5, 46, 40, 83, true), entry(17, 41, 12, 308, false)}));
 
     m_provider->emitSignal(Path, SatelliteInterface, QStringLiteral("SatelliteChanged"),
                            report({{17, 13, 307, 40}, {5, 39, 84, 45}, {3, 1, 0, 9}}, {17, 5}));
     QTRY_COMPARE(watched.seen.count(), 4);
     QCOMPARE(watched.takeSeen(),
-             QStringList({QStringLiteral("info"), QStringLiteral("view 3"), QStringLiteral("info"),
-                          QStringLiteral("use 2")}));
-    QCOMPARE(watched.gps.satelliteInfo(), QVariantList({entry(17, 40, 13, 307, true), entry(5, 45, 39, 84, true),
-                                                        entry(3, 9, 1, 0, false)}));
+             QStringList(
+                 {QStringLiteral("info"), QStringLiteral("view 3"), QStringLiteral("info"), QStringLiteral("use 2")}));
+    QCOMPARE(watched.gps.satelliteInfo(),
+             QVariantList({entry(17, 40, 13, 307, true), entry(5, 45, 39, 84, true), entry(3, 9, 1, 0, false)}));
 
     m_provider->die();
     QTRY_VERIFY(watched.gps.satelliteInfoError());
@@ -512,21 +511,21 @@ void tst_Gps::sameNumberIsNoChangeOfCount()
     Q_EMIT source->satellitesInViewUpdated(one);
     Q_EMIT source->satellitesInUseUpdated(one);
     QCOMPARE(watched.takeSeen(),
-             QStringList({QStringLiteral("info"), QStringLiteral("view 1"), QStringLiteral("info"),
-                          QStringLiteral("use 1")}));
+             QStringList(
+                 {QStringLiteral("info"), QStringLiteral("view 1"), QStringLiteral("info"), QStringLiteral("use 1")}));
     Q_EMIT source->satellitesInViewUpdated(one);
     Q_EMIT source->satellitesInUseUpdated(one);
     Q_EMIT source->satellitesInViewUpdated({satellite(2)});
     Q_EMIT source->satellitesInUseUpdated({satellite(2)});
-    QCOMPARE(watched.takeSeen(),
-             QStringList({QStringLiteral("info"), QStringLiteral("info"), QStringLiteral("info"),
-                          QStringLiteral("info")}));
+    QCOMPARE(
+        watched.takeSeen(),
+        QStringList({QStringLiteral("info"), QStringLiteral("info"), QStringLiteral("info"), QStringLiteral("info")}));
     QCOMPARE(watched.gps.satelliteInfo(), QVariantList({entry(2, 30, 45, 180, true)}));
     Q_EMIT source->satellitesInUseUpdated({});
     Q_EMIT source->satellitesInViewUpdated({});
     QCOMPARE(watched.takeSeen(),
-             QStringList({QStringLiteral("info"), QStringLiteral("use 0"), QStringLiteral("info"),
-                          QStringLiteral("view 0")}));
+             QStringList(
+                 {QStringLiteral("info"), QStringLiteral("use 0"), QStringLiteral("info"), QStringLiteral("view 0")}));
 }
 
 void tst_Gps::comparesIdentifiersOnly()
@@ -591,7 +590,8 @@ void tst_Gps::survivesManySatellites()
 void tst_Gps::destroyedInSourceSignal()
 {
     m_provider->answer(GetSatellite, report({{5, 40, 83, 46}}, {5}));
-    for (const auto signal : {&Gps::satelliteInfoChanged, &Gps::satellitesInViewChanged, &Gps::satellitesInUseChanged}) {
+    for (const auto signal :
+         {&Gps::satelliteInfoChanged, &Gps::satellitesInViewChanged, &Gps::satellitesInUseChanged}) {
         auto *gps = new Gps;
         connect(gps, signal, gps, &QObject::deleteLater);
         QSignalSpy destroyed(gps, &QObject::destroyed);

@@ -283,12 +283,10 @@ void tst_Mce::storesSuspendStats()
     Mce mce;
     QStringList order;
     // Both values are there before either signal.
-    connect(&mce, &Mce::uptimeChanged, this, [&] {
-        order << QStringLiteral("uptime %1 %2").arg(mce.uptime()).arg(mce.suspend());
-    });
-    connect(&mce, &Mce::suspendChanged, this, [&] {
-        order << QStringLiteral("suspend %1 %2").arg(mce.uptime()).arg(mce.suspend());
-    });
+    connect(&mce, &Mce::uptimeChanged, this,
+            [&] { order << QStringLiteral("uptime %1 %2").arg(mce.uptime()).arg(mce.suspend()); });
+    connect(&mce, &Mce::suspendChanged, this,
+            [&] { order << QStringLiteral("suspend %1 %2").arg(mce.uptime()).arg(mce.suspend()); });
     QTRY_COMPARE(order.count(), 2);
     QCOMPARE(order.at(0), QStringLiteral("uptime %1 %2").arg(uptime).arg(suspend));
     QCOMPARE(order.at(1), QStringLiteral("suspend %1 %2").arg(uptime).arg(suspend));

@@ -53,8 +53,7 @@ private:
 /*! A helper with these branches of a shell's case. */
 void writeHelper(const QString &sensor, const QByteArray &branches)
 {
-    writeScript(Helper.arg(sensor),
-                "echo \"$@\" >>" + Calls.toUtf8() + "\ncase $1 in\n" + branches + "\nesac\n");
+    writeScript(Helper.arg(sensor), "echo \"$@\" >>" + Calls.toUtf8() + "\ncase $1 in\n" + branches + "\nesac\n");
 }
 
 QStringList takeCalls()

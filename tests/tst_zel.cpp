@@ -398,7 +398,8 @@ void tst_Zel::survivesOddBroadcasts_data()
     QTest::newRow("list for map") << QVariantList{Service, QVariant(QVariantList{Ready, true}), none};
     QTest::newRow("map of texts") << QVariantList{Service, QVariant::fromValue(TextMap{{Ready, QStringLiteral("1")}}),
                                                   none};
-    QTest::newRow("map of numbers") << QVariantList{Service, QVariant::fromValue(NumberMap{{1, QDBusVariant(true)}}), none};
+    QTest::newRow("map of numbers") << QVariantList{Service, QVariant::fromValue(NumberMap{{1, QDBusVariant(true)}}),
+                                                    none};
     QTest::newRow("map for interface") << QVariantList{properties, properties, none};
     QTest::newRow("map for invalidated") << QVariantList{Service, properties, properties};
     QTest::newRow("variants for invalidated") << QVariantList{Service, properties, QVariant(QVariantList{Ready})};
@@ -449,8 +450,8 @@ void tst_Zel::neverStartsTheDaemon()
     QVERIFY(!m_bus.hasStarted(Service));
 
     // An ordinary call would have.
-    const QDBusPendingCall ordinary = QDBusConnection::systemBus().asyncCall(
-        QDBusMessage::createMethodCall(Service, Path, Properties, GetAll));
+    const QDBusPendingCall ordinary =
+        QDBusConnection::systemBus().asyncCall(QDBusMessage::createMethodCall(Service, Path, Properties, GetAll));
     QTRY_VERIFY(ordinary.isFinished());
     QVERIFY(m_bus.hasStarted(Service));
     QVERIFY(m_bus.makeUnstartable(Service));
