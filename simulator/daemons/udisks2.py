@@ -45,6 +45,8 @@ CARD_PARTITION = BLOCKS + 'mmcblk1p1'
 CARD_DRIVE = DRIVES + 'SU08G_0x12345678'
 CARD_DEVICE = '/dev/mmcblk1p1'
 
+FAULTS = ('full', 'readonly', 'corrupt')
+
 MOUNT_FOLDER = '/run/media/phone'
 # So long the mount table and the job's end are apart in the real daemon.
 TABLE_DELAY_MS = 30
@@ -222,7 +224,8 @@ def umount(target, flags=0):
 class CardFiles:
     """What is on the card. It stays there while the card is not mounted, and while the daemon is away.
 
-    An ordinary user may mount nothing; the card is a plain directory then, which cannot be full.
+    An ordinary user may mount nothing; the card is a plain directory then. It is never really full or corrupt, but the
+    file that Kiv tests it with cannot be written, which looks the same.
     """
 
     def __init__(self):
@@ -300,48 +303,56 @@ class CardFiles:
         self.apply_faults()
 
     def apply_faults(self):
-        filler = self.files + '/full.bin'
-        if not self.has_fault('full') and os.path.exists(filler):
-            os.unlink(filler)
-        self.apply_corrupt()
-        if self.has_fault('full') and not os.path.exists(filler):
-            self.fill(filler)
-        if self.is_mounted() and os.path.ismount(self.place):
-            flags = MS_REMOUNT | MS_BIND | MS_NOSUID | MS_NODEV
-            mount(None, self.place, flags=flags | (MS_RDONLY if self.has_fault('readonly') else 0))
-        elif not os.path.ismount(self.files):
-            os.chmod(self.files, 0o555 if self.has_fault('readonly') else 0o777)
+        if os.path.ismount(self.files):
+            self.apply_corrupt()
+            self.apply_full()
+            self.apply_readonly()
+            return
+        os.chmod(self.files, 0o777)
+        spoiled = self.files + '/test.tmp'
+        if self.has_fault('full') or self.has_fault('corrupt'):
+            if not os.path.exists(spoiled):
+                open(spoiled, 'w').close()
+            os.chmod(spoiled, 0o444)
+        elif os.path.exists(spoiled):
+            os.unlink(spoiled)
+        if any(map(self.has_fault, FAULTS)):
+            os.chmod(self.files, 0o555)
 
-    def fill(self, path):
-        if not os.path.ismount(self.files):
-            raise dbus.DBusException('only a card that root has put in can be full', name=ERROR + '.NotSupported')
-        with open(path, 'wb', buffering=0) as file:
+    def apply_full(self):
+        filler = self.files + '/full.bin'
+        if not self.has_fault('full'):
+            if os.path.exists(filler):
+                os.unlink(filler)
+            return
+        with open(filler, 'ab', buffering=0) as file:
             try:
                 while True:
                     file.write(bytes(4096))
             except OSError:
                 pass
 
+    def apply_readonly(self):
+        if self.is_mounted():
+            flags = MS_REMOUNT | MS_BIND | MS_NOSUID | MS_NODEV
+            mount(None, self.place, flags=flags | (MS_RDONLY if self.has_fault('readonly') else 0))
+
     def apply_corrupt(self):
-        """A card that forgets: whatever is written to the test's file, more and other bytes are read from it."""
+        """Over the test's file lies another, longer one: whatever is written, more and other bytes are read."""
         spoiled = self.files + '/test.tmp'
-        seen = self.is_mounted() and self.place + '/test.tmp'
+        seen = self.place + '/test.tmp'
         if self.has_fault('corrupt'):
-            if not os.path.exists(spoiled):
-                open(spoiled, 'w').close()
-            source = self.marks + '/corrupt'
-            with open(source, 'wb') as file:
-                file.write(os.urandom(1 << 14))
-            os.chmod(source, 0o666)
-            if seen and os.path.ismount(self.place) and not os.path.ismount(seen):
+            open(spoiled, 'a').close()
+            if self.is_mounted() and not os.path.ismount(seen):
+                source = os.path.join(self.marks, 'other')
+                with open(source, 'wb') as file:
+                    file.write(os.urandom(1 << 14))
+                os.chmod(source, 0o666)
                 mount(source, seen, flags=MS_BIND)
-            elif not os.path.ismount(self.files):
-                raise dbus.DBusException('only a card that root has put in can be corrupt',
-                                         name=ERROR + '.NotSupported')
-        else:
-            if seen and os.path.ismount(seen):
+        elif os.path.exists(spoiled):
+            if self.is_mounted() and os.path.ismount(seen):
                 umount(seen, MNT_DETACH)
-                os.unlink(spoiled)
+            os.unlink(spoiled)
 
 
 class Slot:
@@ -460,7 +471,7 @@ class Slot:
             words.append('mounted at ' + self.files.place)
         else:
             words.append('not mounted')
-        words += [fault for fault in ('full', 'readonly', 'corrupt') if self.files.has_fault(fault)]
+        words += [fault for fault in FAULTS if self.files.has_fault(fault)]
         return ', '.join(words)
 
 

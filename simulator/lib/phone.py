@@ -104,10 +104,17 @@ class Daemon:
     def wait_until_ready(self):
         bus = self.bus()
         end = time.monotonic() + START_TIMEOUT_S
+        failure = Failure('the simulated %s does not start' % self.name)
         while not bus.name_has_owner(self.module.BUS_NAME):
             if self.process.poll() is not None or time.monotonic() > end:
-                raise Failure('the simulated %s does not start' % self.name)
+                raise failure
             time.sleep(0.005)
+        # It has its name before it has set itself up, and answers only after that.
+        try:
+            bus.call_blocking(self.module.BUS_NAME, '/', 'org.freedesktop.DBus.Peer', 'Ping', '', (),
+                              timeout=START_TIMEOUT_S)
+        except dbus.DBusException:
+            raise failure
 
     def start(self):
         self.launch()
