@@ -487,10 +487,15 @@ void tst_PartitionManager::followsChanges_data()
          {"tree.end_job(j, False)", "changed unmounted failed", "unmounted failed"}});
     row("job before the page", "card(); j = tree.start_job('filesystem-mount', P1)",
         {{"pass", "", "mounting"}, {"tree.end_job(j, False)", "changed unmounted failed", "unmounted failed"}});
-    row("jobs before the page",
+    // Whichever comes first in the list, that one counts which was started later.
+    row("jobs before the page, mounting later",
         "card(); tree.add(JOBS + '1', job('filesystem-mount', P1, StartTime=dbus.UInt64(2000)));"
         "tree.add(JOBS + '2', job('filesystem-unmount', P1, StartTime=dbus.UInt64(1000)))",
         {{"pass", "", "mounting"}, {"tree.end_job(JOBS + '1')", "changed unmounting", "unmounting"}});
+    row("jobs before the page, unmounting later",
+        "card(); tree.add(JOBS + '1', job('filesystem-mount', P1, StartTime=dbus.UInt64(1000)));"
+        "tree.add(JOBS + '2', job('filesystem-unmount', P1, StartTime=dbus.UInt64(2000)))",
+        {{"pass", "", "unmounting"}, {"tree.end_job(JOBS + '2')", "changed mounting", "mounting"}});
 
     row("mounting fails", "card()",
         {{"j = tree.start_job('filesystem-mount', P1)", "changed mounting", "mounting"},
