@@ -29,7 +29,7 @@ public:
     bool docked() const;
     /*! The cover's identifier; empty while there is none. Source: ZELID. */
     QString zelId() const;
-    /*! Whether the question at construction failed, as without a daemon. Stays true even if the daemon reports later. */
+    /*! Whether the question at construction failed, as without a daemon. Once true, it stays so. */
     bool error() const;
 
 Q_SIGNALS:

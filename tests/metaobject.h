@@ -25,8 +25,8 @@ inline QStringList ownInterface(const QMetaObject &meta)
     }
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         const QMetaProperty property = meta.property(i);
-        QString line = QStringLiteral("property %1 %2")
-                           .arg(QLatin1String(property.typeName()), QLatin1String(property.name()));
+        QString line =
+            QStringLiteral("property %1 %2").arg(QLatin1String(property.typeName()), QLatin1String(property.name()));
         if (!property.isReadable())
             line += QStringLiteral(" unreadable");
         if (property.isWritable())

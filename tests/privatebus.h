@@ -30,25 +30,24 @@ public:
     {
         QFile configuration(m_directory.filePath(QStringLiteral("bus.conf")));
         configuration.open(QIODevice::WriteOnly);
-        configuration.write(
-            "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
-            " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-            "<busconfig>\n"
-            "  <type>session</type>\n"
-            "  <listen>unix:path="
-            + m_directory.filePath(QStringLiteral("bus")).toUtf8()
-            + "</listen>\n"
-              "  <auth>EXTERNAL</auth>\n"
-              "  <servicedir>"
-            + m_directory.path().toUtf8()
-            + "</servicedir>\n"
-              "  <policy context=\"default\">\n"
-              "    <allow user=\"*\"/>\n"
-              "    <allow own=\"*\"/>\n"
-              "    <allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
-              "    <allow eavesdrop=\"true\"/>\n"
-              "  </policy>\n"
-              "</busconfig>\n");
+        configuration.write("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
+                            " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+                            "<busconfig>\n"
+                            "  <type>session</type>\n"
+                            "  <listen>unix:path="
+                            + m_directory.filePath(QStringLiteral("bus")).toUtf8()
+                            + "</listen>\n"
+                              "  <auth>EXTERNAL</auth>\n"
+                              "  <servicedir>"
+                            + m_directory.path().toUtf8()
+                            + "</servicedir>\n"
+                              "  <policy context=\"default\">\n"
+                              "    <allow user=\"*\"/>\n"
+                              "    <allow own=\"*\"/>\n"
+                              "    <allow send_destination=\"*\" eavesdrop=\"true\"/>\n"
+                              "    <allow eavesdrop=\"true\"/>\n"
+                              "  </policy>\n"
+                              "</busconfig>\n");
         configuration.close();
 
         m_daemon.setStandardErrorFile(QProcess::nullDevice());

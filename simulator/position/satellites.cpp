@@ -19,8 +19,10 @@ constexpr int ReportIntervalMs = 1000;
 }
 
 SatelliteSource::SatelliteSource(QObject *parent)
-    : QGeoSatelliteInfoSource(parent), m_bus(QDBusConnection::sessionBus()),
-      m_provider(Service, m_bus, QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration)
+    : QGeoSatelliteInfoSource(parent),
+      m_bus(QDBusConnection::sessionBus()),
+      m_provider(Service, m_bus,
+                 QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration)
 {
     connect(&m_provider, &QDBusServiceWatcher::serviceRegistered, this, [this] {
         setError(NoError);
