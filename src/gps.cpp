@@ -4,6 +4,7 @@
 #include "dbuscall.h"
 
 #include <QDBusPendingCallWatcher>
+#include <QPointer>
 
 namespace
 {
@@ -113,8 +114,10 @@ void Gps::satellitesInViewUpdated(const QList<QGeoSatelliteInfo> &satellites)
 {
     const int oldCount = m_satellitesInView.count();
     m_satellitesInView = satellites;
+    // A page may be closed by the first signal.
+    const QPointer<Gps> alive(this);
     Q_EMIT satelliteInfoChanged();
-    if (m_satellitesInView.count() != oldCount)
+    if (alive && m_satellitesInView.count() != oldCount)
         Q_EMIT satellitesInViewChanged();
 }
 
@@ -122,8 +125,9 @@ void Gps::satellitesInUseUpdated(const QList<QGeoSatelliteInfo> &satellites)
 {
     const int oldCount = m_satellitesInUse.count();
     m_satellitesInUse = satellites;
+    const QPointer<Gps> alive(this);
     Q_EMIT satelliteInfoChanged();
-    if (m_satellitesInUse.count() != oldCount)
+    if (alive && m_satellitesInUse.count() != oldCount)
         Q_EMIT satellitesInUseChanged();
 }
 

@@ -5,6 +5,7 @@
 #include "mceinterface.h"
 
 #include <QDebug>
+#include <QPointer>
 #include <QTimerEvent>
 
 #include <chrono>
@@ -95,8 +96,11 @@ void Mce::onGetSuspendStatsFinished(QDBusPendingCallWatcher *watcher)
     m_uptime = values.value(0).toLongLong();
     m_suspend = values.value(1).toLongLong();
     // Also without a change: each answer is news to a page that shows a running clock.
+    // A page may be closed by the first signal.
+    const QPointer<Mce> alive(this);
     Q_EMIT uptimeChanged();
-    Q_EMIT suspendChanged();
+    if (alive)
+        Q_EMIT suspendChanged();
 }
 
 void Mce::onGetRadioStatesFinished(QDBusPendingCallWatcher *watcher)
@@ -118,8 +122,9 @@ void Mce::updateRadioStates(uint newStates)
 {
     const quint32 changed = m_radioStates ^ newStates;
     m_radioStates = newStates;
+    const QPointer<Mce> alive(this);
     if (changed & NfcBit)
         Q_EMIT nfcEnabledChanged();
-    if (changed & FmtxBit)
+    if (alive && (changed & FmtxBit))
         Q_EMIT fmtxEnabledChanged();
 }

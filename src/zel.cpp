@@ -6,6 +6,7 @@
 #include <QDBusArgument>
 #include <QDBusPendingCallWatcher>
 #include <QDebug>
+#include <QPointer>
 
 namespace
 {
@@ -78,14 +79,17 @@ void Zel::propertiesChanged(const QString &interfaceName, const QVariantMap &cha
 {
     if (interfaceName != Interface)
         return;
+    const QPointer<Zel> alive(this);
     updateProperties(changedProperties);
-    for (const QString &name : invalidatedProperties)
-        updateProperty(name, QVariant());
+    for (auto name = invalidatedProperties.cbegin(); alive && name != invalidatedProperties.cend(); ++name)
+        updateProperty(*name, QVariant());
 }
 
 void Zel::updateProperties(const QVariantMap &properties)
 {
-    for (auto property = properties.cbegin(); property != properties.cend(); ++property)
+    // A page may be closed by the signal of any of them.
+    const QPointer<Zel> alive(this);
+    for (auto property = properties.cbegin(); alive && property != properties.cend(); ++property)
         updateProperty(property.key(), property.value());
 }
 

@@ -597,6 +597,22 @@ void tst_Gps::destroyedInSourceSignal()
         QSignalSpy destroyed(gps, &QObject::destroyed);
         QTRY_COMPARE(destroyed.count(), 1);
     }
+
+    // At once, by a source that does not mind.
+    for (const bool inView : {true, false}) {
+        QGeoSatelliteInfoSource *source = nullptr;
+        auto *gps = new Gps;
+        source = gps->findChild<QGeoSatelliteInfoSource *>();
+        source->setParent(nullptr);
+        connect(gps, &Gps::satelliteInfoChanged, this, [gps] { delete gps; });
+        QSignalSpy destroyed(gps, &QObject::destroyed);
+        if (inView)
+            Q_EMIT source->satellitesInViewUpdated({satellite(1)});
+        else
+            Q_EMIT source->satellitesInUseUpdated({satellite(1)});
+        QCOMPARE(destroyed.count(), 1);
+        delete source;
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Gps)

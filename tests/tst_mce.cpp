@@ -695,11 +695,17 @@ void tst_Mce::destroyedWhileWaiting()
 void tst_Mce::destroyedInItsOwnSignal()
 {
     m_daemon->answer(GetRadioStates, {NfcBit | FmtxBit});
-    for (const auto signal : {&Mce::suspendChanged, &Mce::fmtxEnabledChanged}) {
-        auto *mce = new Mce;
-        connect(mce, signal, mce, &QObject::deleteLater);
-        QSignalSpy destroyed(mce, &QObject::destroyed);
-        QTRY_COMPARE(destroyed.count(), 1);
+    for (const auto signal :
+         {&Mce::uptimeChanged, &Mce::suspendChanged, &Mce::nfcEnabledChanged, &Mce::fmtxEnabledChanged}) {
+        auto *later = new Mce;
+        connect(later, signal, later, &QObject::deleteLater);
+        QSignalSpy destroyedLater(later, &QObject::destroyed);
+        QTRY_COMPARE(destroyedLater.count(), 1);
+
+        auto *atOnce = new Mce;
+        connect(atOnce, signal, this, [atOnce] { delete atOnce; });
+        QSignalSpy destroyedAtOnce(atOnce, &QObject::destroyed);
+        QTRY_COMPARE(destroyedAtOnce.count(), 1);
     }
 }
 

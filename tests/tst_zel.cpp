@@ -518,11 +518,24 @@ void tst_Zel::destroyedInItsOwnSignal()
 {
     m_daemon->answer(GetAll, {QVariantMap{{Ready, true}, {Docked, true}, {Id, QStringLiteral("4711")}}});
     for (const auto signal : {&Zel::readyChanged, &Zel::dockedChanged, &Zel::zelIdChanged}) {
-        auto *zel = new Zel;
-        connect(zel, signal, zel, &QObject::deleteLater);
-        QSignalSpy destroyed(zel, &QObject::destroyed);
-        QTRY_COMPARE(destroyed.count(), 1);
+        auto *later = new Zel;
+        connect(later, signal, later, &QObject::deleteLater);
+        QSignalSpy destroyedLater(later, &QObject::destroyed);
+        QTRY_COMPARE(destroyedLater.count(), 1);
+
+        auto *atOnce = new Zel;
+        connect(atOnce, signal, this, [atOnce] { delete atOnce; });
+        QSignalSpy destroyedAtOnce(atOnce, &QObject::destroyed);
+        QTRY_COMPARE(destroyedAtOnce.count(), 1);
     }
+    // Among the invalidated ones, too.
+    m_daemon->answer(GetAll, {QVariantMap()});
+    auto *zel = new Zel;
+    QTRY_VERIFY(zel->findChildren<QDBusPendingCallWatcher *>().isEmpty());
+    connect(zel, &Zel::dockedChanged, this, [zel] { delete zel; });
+    QSignalSpy destroyed(zel, &QObject::destroyed);
+    broadcast({}, {Ready, Docked, Id});
+    QTRY_COMPARE(destroyed.count(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_Zel)
