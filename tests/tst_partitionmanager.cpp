@@ -311,6 +311,11 @@ void tst_PartitionManager::listsByDevice()
     m_udisks->run(text("tree.change(BLOCKS + 'a', BLOCK, Device=file_name('/dev/mmcblk1p1')[:-1])"));
     m_udisks->run(text("tree.change(BLOCKS + 'b', BLOCK, Device=file_name('/dev/mmcblk1p0\\0zzz'))"));
     QCOMPARE(watched.list(), text("mounted at /2, mounted at /3, mounted at /10, mounted at /1"));
+    // Two of the same name stand by their paths.
+    m_udisks->run(text("tree.change(BLOCKS + 'a', BLOCK, Device=file_name('/dev/mmcblk1p0\\0zzz'))"));
+    m_udisks->run(text("tree.change(BLOCKS + 'b', BLOCK, Device=file_name('/dev/mmcblk1p0'))"));
+    QCOMPARE(watched.list(), text("mounted at /3, mounted at /2, mounted at /10, mounted at /1"));
+    m_udisks->run(text("tree.change(BLOCKS + 'a', BLOCK, Device=file_name('/dev/mmcblk1p1'))"));
     m_udisks->run(text("tree.change(BLOCKS + 'c', BLOCK, Device='a text')"));
     QCOMPARE(watched.list(), text("mounted at /1, mounted at /2, mounted at /3, mounted at /10"));
 }
