@@ -1186,5 +1186,42 @@
         <source>Cold</source>
         <translation>Kalt</translation>
     </message>
+    <message id="kiv-settings-modems">
+        <source>Modems</source>
+        <translation>Modems</translation>
+    </message>
+    <message id="kiv-settings-keys">
+        <source>Keys to test</source>
+        <translation>Zu prüfende Tasten</translation>
+    </message>
+    <message id="kiv-settings-flash">
+        <source>Flash of the back camera</source>
+        <translation>Blitz der Rückkamera</translation>
+    </message>
+    <message id="kiv-settings-frequency">
+        <source>FM frequency of the test</source>
+        <translation>UKW-Frequenz des Tests</translation>
+    </message>
+    <message id="kiv-settings-run-in">
+        <source>Length of the run-in</source>
+        <translation>Länge des Dauerlaufs</translation>
+    </message>
+    <message id="kiv-settings-microphone-top">
+        <source>Upper microphone</source>
+        <translation>Oberes Mikrofon</translation>
+    </message>
+    <message id="kiv-settings-microphone">
+        <source>%1, channel %2</source>
+        <extracomment>A microphone of the sound server and its channel</extracomment>
+        <translation>%1, Kanal %2</translation>
+    </message>
+    <message id="kiv-settings-microphone-bottom">
+        <source>Lower microphone</source>
+        <translation>Unteres Mikrofon</translation>
+    </message>
+    <message id="kiv-settings-configured">
+        <source>As its makers configured it:</source>
+        <translation>So hat der Hersteller es eingerichtet:</translation>
+    </message>
 </context>
 </TS>

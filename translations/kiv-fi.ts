@@ -1171,5 +1171,42 @@
         <source>Checking what this phone has</source>
         <translation>Selvitetään, mitä tässä puhelimessa on</translation>
     </message>
+    <message id="kiv-settings-modems">
+        <source>Modems</source>
+        <translation>Modeemeja</translation>
+    </message>
+    <message id="kiv-settings-keys">
+        <source>Keys to test</source>
+        <translation>Testattavat painikkeet</translation>
+    </message>
+    <message id="kiv-settings-flash">
+        <source>Flash of the back camera</source>
+        <translation>Takakameran salama</translation>
+    </message>
+    <message id="kiv-settings-frequency">
+        <source>FM frequency of the test</source>
+        <translation>Testin FM-taajuus</translation>
+    </message>
+    <message id="kiv-settings-run-in">
+        <source>Length of the run-in</source>
+        <translation>Sisäänajon pituus</translation>
+    </message>
+    <message id="kiv-settings-microphone-top">
+        <source>Upper microphone</source>
+        <translation>Ylämikrofoni</translation>
+    </message>
+    <message id="kiv-settings-microphone">
+        <source>%1, channel %2</source>
+        <extracomment>A microphone of the sound server and its channel</extracomment>
+        <translation>%1, kanava %2</translation>
+    </message>
+    <message id="kiv-settings-microphone-bottom">
+        <source>Lower microphone</source>
+        <translation>Alamikrofoni</translation>
+    </message>
+    <message id="kiv-settings-configured">
+        <source>As its makers configured it:</source>
+        <translation>Valmistajan asetukset:</translation>
+    </message>
 </context>
 </TS>

@@ -1186,5 +1186,42 @@
         <source>Cold</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-settings-modems">
+        <source>Modems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-settings-keys">
+        <source>Keys to test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-settings-flash">
+        <source>Flash of the back camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-settings-frequency">
+        <source>FM frequency of the test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-settings-run-in">
+        <source>Length of the run-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-settings-microphone-top">
+        <source>Upper microphone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-settings-microphone">
+        <source>%1, channel %2</source>
+        <extracomment>A microphone of the sound server and its channel</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-settings-microphone-bottom">
+        <source>Lower microphone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-settings-configured">
+        <source>As its makers configured it:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

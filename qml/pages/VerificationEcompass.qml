@@ -13,7 +13,7 @@ TestPage {
     property real heading: NaN
 
     function follow() {
-        if (!isOpen || !sensor.reading)
+        if (!isOpen)
             return;
         heading = sensor.reading.azimuth;
         azimuth.value = heading;
@@ -37,13 +37,13 @@ TestPage {
     onOpened: {
         //% "No compass was found."
         missing = sensor.connectedToBackend ? "" : qsTrId("kiv-ecompass-missing");
-        follow();
     }
 
     Compass {
         id: sensor
         active: page.isOpen
         alwaysOn: true
+        // Before its first measurement a sensor already has a reading, of zeros.
         onReadingChanged: page.follow()
     }
 

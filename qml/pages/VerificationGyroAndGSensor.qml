@@ -22,15 +22,9 @@ TestPage {
     property bool measured: false
     property var sums: [0, 0, 0]
 
-    readonly property bool flat: wantsAcceleration && accelerometer.reading !== null && liveX.good && liveY.good
-                                 && liveZ.good
+    readonly property bool flat: wantsAcceleration && liveX.good && liveY.good && liveZ.good
 
     function tick() {
-        if (accelerometer.reading) {
-            liveX.value = accelerometer.reading.x;
-            liveY.value = accelerometer.reading.y;
-            liveZ.value = accelerometer.reading.z;
-        }
         if (!measuring) {
             flatFor = flat ? flatFor + 1 : 0;
             if (flatFor >= 20)
@@ -46,7 +40,7 @@ TestPage {
     function sample() {
         if (wantsRotation)
             gyroscope.updateGyroSensor();
-        if (accelerometer.reading)
+        if (!liveX.missing)
             sums = [sums[0] + liveX.value, sums[1] + liveY.value, sums[2] + liveZ.value];
         ++samples;
     }
@@ -63,7 +57,7 @@ TestPage {
             });
             rotation.value = good;
         }
-        if (accelerometer.reading) {
+        if (!liveX.missing) {
             liveX.value = sums[0] / samples;
             liveY.value = sums[1] / samples;
             liveZ.value = sums[2] / samples;
@@ -90,7 +84,13 @@ TestPage {
 
     Accelerometer {
         id: accelerometer
-        active: page.isOpen && page.wantsAcceleration
+        active: page.isOpen && page.wantsAcceleration && !page.measured
+        // Before its first measurement a sensor already has a reading, of zeros.
+        onReadingChanged: {
+            liveX.value = reading.x;
+            liveY.value = reading.y;
+            liveZ.value = reading.z;
+        }
     }
     GyroSensor {
         id: gyroscope

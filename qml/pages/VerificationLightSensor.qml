@@ -15,7 +15,7 @@ TestPage {
     property real brightest: NaN
 
     function follow() {
-        if (!isOpen || !sensor.reading)
+        if (!isOpen)
             return;
         var lux = sensor.reading.illuminance;
         now.value = lux;
@@ -36,13 +36,13 @@ TestPage {
     onOpened: {
         //% "No light sensor was found."
         missing = sensor.connectedToBackend ? "" : qsTrId("kiv-light-missing");
-        follow();
     }
 
     LightSensor {
         id: sensor
         active: page.isOpen
         alwaysOn: true
+        // Before its first measurement a sensor already has a reading, of zeros.
         onReadingChanged: page.follow()
     }
     Measurement {

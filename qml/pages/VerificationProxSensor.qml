@@ -11,7 +11,7 @@ TestPage {
     property bool seenFar: false
 
     function follow() {
-        if (!isOpen || !sensor.reading)
+        if (!isOpen)
             return;
         near.value = sensor.reading.near;
         if (sensor.reading.near)
@@ -31,13 +31,13 @@ TestPage {
     onOpened: {
         //% "No proximity sensor was found."
         missing = sensor.connectedToBackend ? "" : qsTrId("kiv-prox-missing");
-        follow();
     }
 
     ProximitySensor {
         id: sensor
         active: page.isOpen
         alwaysOn: true
+        // Before its first measurement a sensor already has a reading, of zeros.
         onReadingChanged: page.follow()
     }
     StepList {

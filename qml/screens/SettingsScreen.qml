@@ -19,6 +19,61 @@ Item {
         name: qsTrId("kiv-settings-4g")
         Component.onCompleted: value = radio.getResult
     }
+    Measurement {
+        id: modems
+        //% "Modems"
+        name: qsTrId("kiv-settings-modems")
+        value: KivHwSettings.modemCount
+    }
+    Measurement {
+        id: keys
+        //% "Keys to test"
+        name: qsTrId("kiv-settings-keys")
+        value: KivHwSettings.keys.map(function(key) { return KivHwSettings.keyName(key); }).join(", ")
+    }
+    Measurement {
+        id: led
+        //% "Notification light"
+        name: qsTrId("kiv-test-led")
+        value: KivHwSettings.ledType
+    }
+    Measurement {
+        id: flash
+        //% "Flash of the back camera"
+        name: qsTrId("kiv-settings-flash")
+        value: KivHwSettings.backCameraFlash
+    }
+    Measurement {
+        id: frequency
+        //% "FM frequency of the test"
+        name: qsTrId("kiv-settings-frequency")
+        value: KivHwSettings.defaultFmRadioFrequency
+        unit: "MHz"
+        decimals: 1
+    }
+    Measurement {
+        id: runInLength
+        //% "Length of the run-in"
+        name: qsTrId("kiv-settings-run-in")
+        value: KivHwSettings.runInTestLength
+        unit: "h"
+    }
+    Measurement {
+        id: topMicrophone
+        //% "Upper microphone"
+        name: qsTrId("kiv-settings-microphone-top")
+        //: A microphone of the sound server and its channel
+        //% "%1, channel %2"
+        value: qsTrId("kiv-settings-microphone").arg(KivHwSettings.recordTopDevice)
+                                                .arg(KivHwSettings.recordTopDeviceChannel)
+    }
+    Measurement {
+        id: bottomMicrophone
+        //% "Lower microphone"
+        name: qsTrId("kiv-settings-microphone-bottom")
+        value: qsTrId("kiv-settings-microphone").arg(KivHwSettings.recordBottomDevice)
+                                                .arg(KivHwSettings.recordBottomDeviceChannel)
+    }
 
     Header {
         id: header
@@ -32,16 +87,6 @@ Item {
         anchors.bottom: footer.top
         width: parent.width
 
-        Card {
-            width: parent.width
-            padding: Theme.gap
-
-            MeasurementTable {
-                x: Theme.gap
-                width: parent.width - 2 * Theme.gap
-                readings: [preference]
-            }
-        }
         PushButton {
             width: parent.width
             glyph: screen.shell && screen.shell.dark ? "sun" : "moon"
@@ -58,6 +103,23 @@ Item {
             //% "Read the notice again"
             text: qsTrId("kiv-settings-disclaimer")
             onClicked: screen.shell.show("DisclaimerScreen")
+        }
+        Words {
+            width: parent.width
+            //% "As its makers configured it:"
+            text: qsTrId("kiv-settings-configured")
+            color: Theme.muted
+        }
+        Card {
+            width: parent.width
+            padding: Theme.gap
+
+            MeasurementTable {
+                x: Theme.gap
+                width: parent.width - 2 * Theme.gap
+                readings: [preference, modems, keys, led, flash, frequency, runInLength, topMicrophone,
+                           bottomMicrophone]
+            }
         }
     }
     Footer {
