@@ -7,6 +7,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDebug>
+#include <QPointer>
 
 namespace
 {
@@ -32,11 +33,10 @@ QDBusMessage methodCall(const QString &method)
 
 AudioRoute::AudioRoute(QObject *parent) : QObject(parent), m_bus(QDBusConnection::systemBus())
 {
-    // With their signatures, so that a broadcast of another shape never reaches the slots.
-    m_bus.connect(Service, Path, Interface, QStringLiteral("AudioFeatureChanged"), QStringLiteral("suu"), this,
-                  SLOT(handleAudioFeatureChanged(QString, uint, uint)));
-    m_bus.connect(Service, Path, Interface, QStringLiteral("AudioRouteChanged"), QStringLiteral("su"), this,
-                  SLOT(handleAudioRouteChanged(QString, uint)));
+    subscribe(m_bus, Service, Path, Interface, QStringLiteral("AudioFeatureChanged"), QStringLiteral("suu"), this,
+              SLOT(handleAudioFeatureChanged(QString, uint, uint)));
+    subscribe(m_bus, Service, Path, Interface, QStringLiteral("AudioRouteChanged"), QStringLiteral("su"), this,
+              SLOT(handleAudioRouteChanged(QString, uint)));
 
     const auto watcher =
         new QDBusPendingCallWatcher(callRunningService(m_bus, methodCall(QStringLiteral("GetAll"))), this);
@@ -113,10 +113,13 @@ void AudioRoute::handleGetAllReply(QDBusPendingCallWatcher *call)
         return;
     }
 
+    // A page may be closed by any of the signals.
+    const QPointer<AudioRoute> alive(this);
     handleAudioRouteChanged(arguments.at(0).toString(), arguments.at(1).toUInt());
-    handleAudioRouteChanged(arguments.at(2).toString(), arguments.at(3).toUInt());
+    if (alive)
+        handleAudioRouteChanged(arguments.at(2).toString(), arguments.at(3).toUInt());
     // Older route managers leave the features out.
-    if (arguments.size() > 4)
+    if (alive && arguments.size() > 4)
         readFeatures(arguments.at(4).value<QDBusArgument>());
 }
 
@@ -125,8 +128,9 @@ void AudioRoute::readFeatures(const QDBusArgument &features)
     // Reading a structure of another signature aborts the process.
     if (features.currentSignature() != FeaturesSignature)
         return;
+    const QPointer<AudioRoute> alive(this);
     features.beginArray();
-    while (!features.atEnd()) {
+    while (alive && !features.atEnd()) {
         QString name;
         uint allowed = 0;
         uint enabled = 0;
@@ -135,5 +139,4 @@ void AudioRoute::readFeatures(const QDBusArgument &features)
         features.endStructure();
         handleAudioFeatureChanged(name, allowed, enabled);
     }
-    features.endArray();
 }
