@@ -69,9 +69,7 @@ PartitionManager::PartitionManager(QObject *parent) : QObject(parent), m_bus(QDB
     subscribe(LocalPath, LocalInterface, "Disconnected", {}, SLOT(onBusLost()));
     const auto watcher = new QDBusServiceWatcher(Service, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString &, const QString &oldOwner, const QString &newOwner) {
-                onOwnerChanged(oldOwner, newOwner);
-            });
+            [this](const QString &, const QString &, const QString &newOwner) { onOwnerChanged(newOwner); });
 
     const QDBusMessage reply = m_bus.call(objectsCall(Service), QDBus::Block, FirstListTimeout.count());
     if (!takeObjects(reply))
@@ -95,10 +93,10 @@ QVector<Partition> PartitionManager::partitions(Partition::StorageTypes types) c
     return list;
 }
 
-void PartitionManager::onOwnerChanged(const QString &oldOwner, const QString &newOwner)
+void PartitionManager::onOwnerChanged(const QString &newOwner)
 {
-    // The first list may have come from an owner whose arrival, or whose forerunner's end, is told only now.
-    if (newOwner == m_owner || (newOwner.isEmpty() && oldOwner != m_owner))
+    // A daemon that came while the first list was asked for may have answered before its coming is told.
+    if (newOwner == m_owner)
         return;
     forgetDaemon();
     m_owner = newOwner;

@@ -65,7 +65,7 @@ private:
     };
     using InterfaceOfObject = QPair<QString, QString>;
 
-    void onOwnerChanged(const QString &oldOwner, const QString &newOwner);
+    void onOwnerChanged(const QString &newOwner);
     void queryObjects(const QString &destination);
     bool takeObjects(const QDBusMessage &reply);
     void queryProperties(const QString &path, const QString &interface);
