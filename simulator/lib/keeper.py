@@ -62,7 +62,8 @@ class Keeper:
     def __init__(self, settings):
         self.settings = settings
         self.commands = commands.load()
-        self.phone = Phone(settings['identifier'], settings['folder'], settings['daemons'])
+        self.phone = Phone(settings['identifier'], settings['folder'], settings['daemons'], settings['pactl'],
+                           settings['uid'])
         self.loop = GLib.MainLoop()
         self.status = 0
         self.listener = socket.socket(fileno=settings['listener'])

@@ -156,9 +156,11 @@ class Daemon:
 
 
 class Phone:
-    def __init__(self, identifier, folder, daemons):
+    def __init__(self, identifier, folder, daemons, pactl=None, uid=None):
         self.identifier = identifier
         self.folder = folder
+        self.pactl = pactl  # a descriptor of this machine's
+        self.uid = uid  # the command's; None if it is the caller's
         self.environment = dict(os.environ)  # of the command; hardware may add to it
         os.makedirs(os.path.dirname(SYSTEM_BUS_SOCKET), exist_ok=True)
         start_bus('system', SYSTEM_BUS_SOCKET)

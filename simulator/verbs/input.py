@@ -53,6 +53,9 @@ def plug(phone, what):
     if what not in PLUGS:
         raise Failure('say headphone, microphone or headset')
     jack(phone).send(list(zip(SWITCHES, PLUGS[what])))
+    # The audio policy looks at the same switches.
+    if 'route' in phone.daemons and phone.daemon('route').state() == 'running':
+        phone.daemon('route').call('Plug', *(bool(on) for on in PLUGS[what]))
 
 
 # The cover
