@@ -128,7 +128,7 @@ private:
 };
 }
 
-Touch::Touch(QObject *parent) : QThread(parent), m_abandoned(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+Touch::Touch(QObject *parent) : QThread(parent), m_abandoned(::eventfd(0, EFD_CLOEXEC))
 {
 }
 

@@ -125,6 +125,7 @@ void tst_Uptime::countsWholeSecondsBack_data()
     QTest::newRow("garbage") << QByteArray("a lot\n") << qint64(0);
     QTest::newRow("NUL") << QByteArray("1\0002 3\n", 6) << qint64(0);
     QTest::newRow("beyond any date") << QByteArray("1e300 1\n") << qint64(0);
+    QTest::newRow("beyond any date in milliseconds") << QByteArray("300000000000000000 1\n") << qint64(0);
     QTest::newRow("infinite") << QByteArray("inf 1\n") << qint64(0);
     QTest::newRow("not a number") << QByteArray("nan 1\n") << qint64(0);
     QTest::newRow("large file") << QByteArray("77.7 ") + QByteArray(1 << 20, '9') << qint64(77);

@@ -44,6 +44,6 @@ def self_test(phone, result):
 
 
 COMMANDS = [
-    Command('touch self-test', 'pass|fail|busy|missing', 'what the self-test of the touch controller finds; while it is '
-            'busy, who asks has to wait', self_test),
+    Command('touch self-test', 'pass|fail|busy|missing', 'what the self-test of the touch controller finds; while '
+            'busy, it has no answer yet', self_test),
 ]
