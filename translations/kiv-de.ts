@@ -1223,5 +1223,137 @@
         <source>As its makers configured it:</source>
         <translation>So hat der Hersteller es eingerichtet:</translation>
     </message>
+    <message id="kiv-headset-music-instructions">
+        <source>Play each sound and listen to the headset: it must come from the side that its button names.</source>
+        <translation>Spielen Sie jeden Ton und hören Sie auf das Headset: Er muss von der Seite kommen, die sein Knopf nennt.</translation>
+    </message>
+    <message id="kiv-headset-music-instructions-plug">
+        <source>Plug a headset in.</source>
+        <translation>Stecken Sie ein Headset ein.</translation>
+    </message>
+    <message id="kiv-sound-left">
+        <source>Left: low tone</source>
+        <translation>Links: tiefer Ton</translation>
+    </message>
+    <message id="kiv-sound-right">
+        <source>Right: high tone</source>
+        <translation>Rechts: hoher Ton</translation>
+    </message>
+    <message id="kiv-sound-tune">
+        <source>Play the tune</source>
+        <translation>Melodie spielen</translation>
+    </message>
+    <message id="kiv-headset-music-plugged">
+        <source>Headset</source>
+        <translation>Headset</translation>
+    </message>
+    <message id="kiv-speaker-music-instructions">
+        <source>Play the tune and listen to the loudspeaker: every tone must be clear, without rattling.</source>
+        <translation>Spielen Sie die Melodie und hören Sie auf den Lautsprecher: Jeder Ton muss klar sein, ohne Schnarren.</translation>
+    </message>
+    <message id="kiv-receiver-instructions">
+        <source>Play the tune and hold the phone to your ear: it must come from the earpiece only.</source>
+        <translation>Spielen Sie die Melodie und halten Sie das Telefon ans Ohr: Sie darf nur aus der Hörmuschel kommen.</translation>
+    </message>
+    <message id="kiv-speaker-stereo-instructions">
+        <source>Play each sound: it must come from the side that its button names.</source>
+        <translation>Spielen Sie jeden Ton: Er muss von der Seite kommen, die sein Knopf nennt.</translation>
+    </message>
+    <message id="kiv-sound-both">
+        <source>Both sides</source>
+        <translation>Beide Seiten</translation>
+    </message>
+    <message id="kiv-microphone-missing">
+        <source>The sound server does not answer, or it knows no built-in microphone.</source>
+        <translation>Der Tondienst antwortet nicht, oder er kennt kein eingebautes Mikrofon.</translation>
+    </message>
+    <message id="kiv-microphone-hint">
+        <source>Pass unlocks when a recording has been played back.</source>
+        <translation>„Bestanden“ ist gesperrt, bis eine Aufnahme abgespielt wurde.</translation>
+    </message>
+    <message id="kiv-microphone-working">
+        <source>Looking for the microphone</source>
+        <translation>Mikrofon wird gesucht</translation>
+    </message>
+    <message id="kiv-microphone-recording">
+        <source>Recording: speak now.</source>
+        <translation>Aufnahme läuft: Sprechen Sie jetzt.</translation>
+    </message>
+    <message id="kiv-microphone-playing">
+        <source>Playing what was recorded.</source>
+        <translation>Die Aufnahme wird abgespielt.</translation>
+    </message>
+    <message id="kiv-microphone-record">
+        <source>Record four seconds</source>
+        <translation>Vier Sekunden aufnehmen</translation>
+    </message>
+    <message id="kiv-microphone-play">
+        <source>Play it again</source>
+        <translation>Noch einmal abspielen</translation>
+    </message>
+    <message id="kiv-sound-missing">
+        <source>The sound server does not answer, or it has no main output.</source>
+        <translation>Der Tondienst antwortet nicht, oder er hat keinen Hauptausgang.</translation>
+    </message>
+    <message id="kiv-sound-hint">
+        <source>Pass unlocks when every sound has been played.</source>
+        <translation>„Bestanden“ ist gesperrt, bis jeder Ton gespielt wurde.</translation>
+    </message>
+    <message id="kiv-sound-working">
+        <source>Setting up the sound output</source>
+        <translation>Tonausgang wird eingestellt</translation>
+    </message>
+    <message id="kiv-system-streams">
+        <source>What plays into the sound server</source>
+        <translation>Was über den Tondienst spielt</translation>
+    </message>
+    <message id="kiv-system-stream-paused">
+        <source>paused</source>
+        <translation>angehalten</translation>
+    </message>
+    <message id="kiv-system-stream-muted">
+        <source>muted</source>
+        <translation>stumm</translation>
+    </message>
+    <message id="kiv-microphone-bottom">
+        <source>Speak into the microphone at the bottom of the phone and listen to the recording.</source>
+        <translation>Sprechen Sie in das Mikrofon an der Unterseite des Telefons und hören Sie sich die Aufnahme an.</translation>
+    </message>
+    <message id="kiv-microphone-top">
+        <source>Speak into the microphone at the top of the phone and listen to the recording.</source>
+        <translation>Sprechen Sie in das Mikrofon an der Oberseite des Telefons und hören Sie sich die Aufnahme an.</translation>
+    </message>
+    <message id="kiv-fm-radio-instructions">
+        <source>Plug a headset in, whose cable is the antenna, and switch the radio on. A station or at least noise must be heard.</source>
+        <translation>Stecken Sie ein Headset ein, dessen Kabel die Antenne ist, und schalten Sie das Radio ein. Ein Sender oder wenigstens Rauschen muss zu hören sein.</translation>
+    </message>
+    <message id="kiv-fm-radio-hint">
+        <source>Pass unlocks when the radio has been on.</source>
+        <translation>„Bestanden“ ist gesperrt, bis das Radio an war.</translation>
+    </message>
+    <message id="kiv-fm-radio-antenna">
+        <source>Headset as antenna</source>
+        <translation>Headset als Antenne</translation>
+    </message>
+    <message id="kiv-fm-radio-frequency">
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message id="kiv-fm-radio-loop">
+        <source>Radio heard through the headset</source>
+        <translation>Radio im Headset zu hören</translation>
+    </message>
+    <message id="kiv-fm-radio-off">
+        <source>Switch the radio off</source>
+        <translation>Radio ausschalten</translation>
+    </message>
+    <message id="kiv-fm-radio-on">
+        <source>Switch the radio on</source>
+        <translation>Radio einschalten</translation>
+    </message>
+    <message id="kiv-fm-radio-refused">
+        <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
+        <translation>Das Radio ließ sich nicht einschalten: Die Tonsteuerung antwortet nicht oder bietet es nicht an.</translation>
+    </message>
 </context>
 </TS>

@@ -1208,5 +1208,137 @@
         <source>As its makers configured it:</source>
         <translation>Valmistajan asetukset:</translation>
     </message>
+    <message id="kiv-headset-music-instructions">
+        <source>Play each sound and listen to the headset: it must come from the side that its button names.</source>
+        <translation>Soita jokainen ääni ja kuuntele kuulokkeita: sen on kuuluttava siltä puolelta, jonka painike nimeää.</translation>
+    </message>
+    <message id="kiv-headset-music-instructions-plug">
+        <source>Plug a headset in.</source>
+        <translation>Kytke kuulokkeet.</translation>
+    </message>
+    <message id="kiv-sound-left">
+        <source>Left: low tone</source>
+        <translation>Vasen: matala ääni</translation>
+    </message>
+    <message id="kiv-sound-right">
+        <source>Right: high tone</source>
+        <translation>Oikea: korkea ääni</translation>
+    </message>
+    <message id="kiv-sound-tune">
+        <source>Play the tune</source>
+        <translation>Soita sävelmä</translation>
+    </message>
+    <message id="kiv-headset-music-plugged">
+        <source>Headset</source>
+        <translation>Kuulokkeet</translation>
+    </message>
+    <message id="kiv-speaker-music-instructions">
+        <source>Play the tune and listen to the loudspeaker: every tone must be clear, without rattling.</source>
+        <translation>Soita sävelmä ja kuuntele kaiutinta: jokaisen äänen on oltava puhdas eikä saa säristä.</translation>
+    </message>
+    <message id="kiv-receiver-instructions">
+        <source>Play the tune and hold the phone to your ear: it must come from the earpiece only.</source>
+        <translation>Soita sävelmä ja pidä puhelinta korvalla: sen on kuuluttava vain kuulokkeesta.</translation>
+    </message>
+    <message id="kiv-speaker-stereo-instructions">
+        <source>Play each sound: it must come from the side that its button names.</source>
+        <translation>Soita jokainen ääni: sen on kuuluttava siltä puolelta, jonka painike nimeää.</translation>
+    </message>
+    <message id="kiv-sound-both">
+        <source>Both sides</source>
+        <translation>Molemmat puolet</translation>
+    </message>
+    <message id="kiv-microphone-missing">
+        <source>The sound server does not answer, or it knows no built-in microphone.</source>
+        <translation>Äänipalvelu ei vastaa, tai se ei tunne sisäistä mikrofonia.</translation>
+    </message>
+    <message id="kiv-microphone-hint">
+        <source>Pass unlocks when a recording has been played back.</source>
+        <translation>Hyväksyntä avautuu, kun nauhoitus on toistettu.</translation>
+    </message>
+    <message id="kiv-microphone-working">
+        <source>Looking for the microphone</source>
+        <translation>Mikrofonia etsitään</translation>
+    </message>
+    <message id="kiv-microphone-recording">
+        <source>Recording: speak now.</source>
+        <translation>Nauhoitetaan: puhu nyt.</translation>
+    </message>
+    <message id="kiv-microphone-playing">
+        <source>Playing what was recorded.</source>
+        <translation>Nauhoitus toistetaan.</translation>
+    </message>
+    <message id="kiv-microphone-record">
+        <source>Record four seconds</source>
+        <translation>Nauhoita neljä sekuntia</translation>
+    </message>
+    <message id="kiv-microphone-play">
+        <source>Play it again</source>
+        <translation>Toista uudelleen</translation>
+    </message>
+    <message id="kiv-sound-missing">
+        <source>The sound server does not answer, or it has no main output.</source>
+        <translation>Äänipalvelu ei vastaa, tai sillä ei ole päälähtöä.</translation>
+    </message>
+    <message id="kiv-sound-hint">
+        <source>Pass unlocks when every sound has been played.</source>
+        <translation>Hyväksyntä avautuu, kun jokainen ääni on soitettu.</translation>
+    </message>
+    <message id="kiv-sound-working">
+        <source>Setting up the sound output</source>
+        <translation>Äänilähtöä asetetaan</translation>
+    </message>
+    <message id="kiv-system-streams">
+        <source>What plays into the sound server</source>
+        <translation>Mitä äänipalvelussa soi</translation>
+    </message>
+    <message id="kiv-system-stream-paused">
+        <source>paused</source>
+        <translation>tauolla</translation>
+    </message>
+    <message id="kiv-system-stream-muted">
+        <source>muted</source>
+        <translation>mykistetty</translation>
+    </message>
+    <message id="kiv-microphone-bottom">
+        <source>Speak into the microphone at the bottom of the phone and listen to the recording.</source>
+        <translation>Puhu puhelimen alareunan mikrofoniin ja kuuntele nauhoitus.</translation>
+    </message>
+    <message id="kiv-microphone-top">
+        <source>Speak into the microphone at the top of the phone and listen to the recording.</source>
+        <translation>Puhu puhelimen yläreunan mikrofoniin ja kuuntele nauhoitus.</translation>
+    </message>
+    <message id="kiv-fm-radio-instructions">
+        <source>Plug a headset in, whose cable is the antenna, and switch the radio on. A station or at least noise must be heard.</source>
+        <translation>Kytke kuulokkeet, joiden johto on antenni, ja kytke radio päälle. Aseman tai ainakin kohinan on kuuluttava.</translation>
+    </message>
+    <message id="kiv-fm-radio-hint">
+        <source>Pass unlocks when the radio has been on.</source>
+        <translation>Hyväksyntä avautuu, kun radio on ollut päällä.</translation>
+    </message>
+    <message id="kiv-fm-radio-antenna">
+        <source>Headset as antenna</source>
+        <translation>Kuulokkeet antennina</translation>
+    </message>
+    <message id="kiv-fm-radio-frequency">
+        <source>Frequency</source>
+        <translation>Taajuus</translation>
+    </message>
+    <message id="kiv-fm-radio-loop">
+        <source>Radio heard through the headset</source>
+        <translation>Radio kuuluu kuulokkeista</translation>
+    </message>
+    <message id="kiv-fm-radio-off">
+        <source>Switch the radio off</source>
+        <translation>Kytke radio pois</translation>
+    </message>
+    <message id="kiv-fm-radio-on">
+        <source>Switch the radio on</source>
+        <translation>Kytke radio päälle</translation>
+    </message>
+    <message id="kiv-fm-radio-refused">
+        <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
+        <translation>Radiota ei voitu kytkeä päälle: ääniohjaus ei vastaa tai ei tarjoa sitä.</translation>
+    </message>
 </context>
 </TS>

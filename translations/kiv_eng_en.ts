@@ -1223,5 +1223,137 @@
         <source>As its makers configured it:</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-headset-music-instructions">
+        <source>Play each sound and listen to the headset: it must come from the side that its button names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-music-instructions-plug">
+        <source>Plug a headset in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-left">
+        <source>Left: low tone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-right">
+        <source>Right: high tone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-tune">
+        <source>Play the tune</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-headset-music-plugged">
+        <source>Headset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-speaker-music-instructions">
+        <source>Play the tune and listen to the loudspeaker: every tone must be clear, without rattling.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-receiver-instructions">
+        <source>Play the tune and hold the phone to your ear: it must come from the earpiece only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-speaker-stereo-instructions">
+        <source>Play each sound: it must come from the side that its button names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-both">
+        <source>Both sides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-missing">
+        <source>The sound server does not answer, or it knows no built-in microphone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-hint">
+        <source>Pass unlocks when a recording has been played back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-working">
+        <source>Looking for the microphone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-recording">
+        <source>Recording: speak now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-playing">
+        <source>Playing what was recorded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-record">
+        <source>Record four seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-play">
+        <source>Play it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-missing">
+        <source>The sound server does not answer, or it has no main output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-hint">
+        <source>Pass unlocks when every sound has been played.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-working">
+        <source>Setting up the sound output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-streams">
+        <source>What plays into the sound server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-stream-paused">
+        <source>paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-stream-muted">
+        <source>muted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-bottom">
+        <source>Speak into the microphone at the bottom of the phone and listen to the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-top">
+        <source>Speak into the microphone at the top of the phone and listen to the recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-instructions">
+        <source>Plug a headset in, whose cable is the antenna, and switch the radio on. A station or at least noise must be heard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-hint">
+        <source>Pass unlocks when the radio has been on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-antenna">
+        <source>Headset as antenna</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-frequency">
+        <source>Frequency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-loop">
+        <source>Radio heard through the headset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-off">
+        <source>Switch the radio off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-on">
+        <source>Switch the radio on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-refused">
+        <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -42,19 +42,19 @@ var rows = [
     { name: "VerificationFingerprint", title: QT_TRID_NOOP("kiv-test-fingerprint"), needs: ["Fingerprint"], page: "",
       glyph: "fingerprint", kind: "guided", seconds: 20 },
     //% "Microphone 1"
-    { name: "VerificationAudio1Mic", title: QT_TRID_NOOP("kiv-test-mic-1"), needs: ["AudioMic1"], page: "",
+    { name: "VerificationAudio1Mic", title: QT_TRID_NOOP("kiv-test-mic-1"), needs: ["AudioMic1"], page: "VerificationAudio1Mic.qml",
       glyph: "microphone", kind: "guided", seconds: 25 },
     //% "Microphone 2"
-    { name: "VerificationAudio2Mic", title: QT_TRID_NOOP("kiv-test-mic-2"), needs: ["AudioMic2"], page: "",
+    { name: "VerificationAudio2Mic", title: QT_TRID_NOOP("kiv-test-mic-2"), needs: ["AudioMic2"], page: "VerificationAudio2Mic.qml",
       glyph: "microphone", kind: "guided", seconds: 25 },
     //% "Loudspeaker music"
-    { name: "AudioPlayMusicLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-music"), needs: ["Loudspeaker"], page: "",
+    { name: "AudioPlayMusicLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-music"), needs: ["Loudspeaker"], page: "AudioPlayMusicLoudspeaker.qml",
       glyph: "speaker", kind: "guided", seconds: 15, runIn: 4 },
     //% "Loudspeaker left and right"
-    { name: "AudioPlayStereoLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-stereo"), needs: ["Loudspeaker"], page: "",
+    { name: "AudioPlayStereoLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-stereo"), needs: ["Loudspeaker"], page: "AudioPlayStereoLoudspeaker.qml",
       glyph: "speaker", kind: "guided", seconds: 20 },
     //% "Earpiece"
-    { name: "AudioPlayMusicReceiver", title: QT_TRID_NOOP("kiv-test-receiver"), needs: ["Receiver"], page: "",
+    { name: "AudioPlayMusicReceiver", title: QT_TRID_NOOP("kiv-test-receiver"), needs: ["Receiver"], page: "AudioPlayMusicReceiver.qml",
       glyph: "receiver", kind: "guided", seconds: 15 },
     //% "Headset buttons"
     { name: "VerificationHeadsetButtons", title: QT_TRID_NOOP("kiv-test-headset-buttons"), needs: ["Headset"], page: "VerificationHeadsetButtons.qml",
@@ -63,7 +63,7 @@ var rows = [
     { name: "VerificationHeadset", title: QT_TRID_NOOP("kiv-test-headset"), needs: ["Headset"], page: "VerificationHeadset.qml",
       glyph: "headset", kind: "measured", seconds: 20 },
     //% "Headset music"
-    { name: "AudioPlayMusicHeadset", title: QT_TRID_NOOP("kiv-test-headset-music"), needs: ["Headset"], page: "",
+    { name: "AudioPlayMusicHeadset", title: QT_TRID_NOOP("kiv-test-headset-music"), needs: ["Headset"], page: "AudioPlayMusicHeadset.qml",
       glyph: "headset", kind: "guided", seconds: 20 },
     //% "Front camera"
     { name: "VerificationFrontCamera", title: QT_TRID_NOOP("kiv-test-front-camera"), needs: ["FrontCamera"], page: "",
@@ -84,7 +84,7 @@ var rows = [
     { name: "VerificationGpsRadio", title: QT_TRID_NOOP("kiv-test-gps"), needs: ["GPS"], page: "",
       glyph: "gps", kind: "measured", seconds: 90 },
     //% "FM radio"
-    { name: "VerificationFmRadio", title: QT_TRID_NOOP("kiv-test-fm-radio"), needs: ["FmRadio"], page: "",
+    { name: "VerificationFmRadio", title: QT_TRID_NOOP("kiv-test-fm-radio"), needs: ["FmRadio"], page: "VerificationFmRadio.qml",
       glyph: "fm", kind: "guided", seconds: 30 },
     //% "Battery"
     { name: "VerificationBattery", title: QT_TRID_NOOP("kiv-test-battery"), needs: ["Battery"], page: "VerificationBattery.qml",

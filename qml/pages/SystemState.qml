@@ -96,4 +96,37 @@ TestPage {
             }
         }
     }
+
+    Words {
+        width: parent.width
+        visible: streams.count > 0
+        //% "What plays into the sound server"
+        text: qsTrId("kiv-system-streams")
+        font.weight: Font.DemiBold
+    }
+    Card {
+        width: parent.width
+        visible: streams.count > 0
+        padding: Theme.gap
+        spacing: Theme.gap
+
+        Repeater {
+            model: PulseAudio {
+                id: streams
+            }
+
+            Words {
+                width: parent.width
+                // The tool prints quotes around both names.
+                text: [model.applicationName, model.mediaName, model.volumeInfo,
+                       //% "paused"
+                       model.corked ? qsTrId("kiv-system-stream-paused") : "",
+                       //% "muted"
+                       model.muted ? qsTrId("kiv-system-stream-muted") : ""]
+                      .filter(function(part) { return part !== undefined && part !== ""; })
+                      .map(function(part) { return part.replace(/^"|"$/g, ""); }).join(", ")
+                font.pixelSize: Theme.small
+            }
+        }
+    }
 }

@@ -33,6 +33,12 @@ QtObject {
     property bool prefers4G: false
     property var calibrated: ["gyroscope", "compass"]
     property bool calibrationWorks: true
+    property bool offersRadio: true
+    property string sinkName: "sink.primary"
+    property string sinkPort: "output-before"
+    property string sourceName: "source.builtin"
+    property var streams: [{ mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%", corked: false,
+                             muted: true }]
 
     /*! What the pages did to the phone, in order. */
     property var log: []
@@ -70,6 +76,10 @@ QtObject {
         prefers4G = false;
         calibrated = ["gyroscope", "compass"];
         calibrationWorks = true;
+        sinkName = "sink.primary";
+        sinkPort = "output-before";
+        sourceName = "source.builtin";
+        offersRadio = true;
         log = [];
     }
 

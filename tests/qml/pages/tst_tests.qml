@@ -68,6 +68,92 @@ Driver {
         compare(result("Voltage"), "none");
     }
 
+    function test_soundGoesThroughItsPort_data() {
+        return [
+            { tag: "AudioPlayMusicLoudspeaker", port: "output-speaker", sounds: ["tune"] },
+            { tag: "AudioPlayStereoLoudspeaker", port: "output-speaker", sounds: ["left", "right", "both"] },
+            { tag: "AudioPlayMusicReceiver", port: "output-earpiece", sounds: ["tune"] },
+            { tag: "AudioPlayMusicHeadset", port: "output-wired_headphone", sounds: ["left", "right", "tune"] }
+        ];
+    }
+
+    function test_soundGoesThroughItsPort(data) {
+        Phone.headphones = true;
+        openTest(data.tag);
+        tryCompare(Phone, "sinkPort", data.port);
+        data.sounds.forEach(function(name) {
+            verify(!page.evidence, name);
+            mouseClick(find(name));
+            compare(page.playing, name);
+            wait(1200);
+        });
+        verify(page.evidence);
+        shell.leaveTest();
+        compare(Phone.log, ["port " + data.port, "port output-before"]);
+    }
+
+    function test_soundNeedsItsServer() {
+        Phone.sinkName = "";
+        openTest("AudioPlayMusicReceiver");
+        missingIs("sound server");
+        shell.leaveTest();
+        compare(Phone.log, []);
+    }
+
+    function test_headsetMusicWaitsForTheHeadset() {
+        openTest("AudioPlayMusicHeadset");
+        verify(!find("tune").enabled);
+        Phone.headphones = true;
+        tryCompare(find("tune"), "enabled", true);
+        mouseClick(find("tune"));
+        Phone.headphones = false;
+        tryCompare(page, "playing", "");
+        wait(1200);
+        compare(page.played, []);
+    }
+
+    function test_microphones_data() {
+        return [{ tag: "VerificationAudio1Mic", source: 2 }, { tag: "VerificationAudio2Mic", source: 1 }];
+    }
+
+    function test_microphones(data) {
+        openTest(data.tag);
+        tryCompare(find("record"), "enabled", true);
+        wait(200);
+        mouseClick(find("record"));
+        compare(Phone.log, ["record " + data.source]);
+        verify(!page.evidence);
+        tryCompare(page, "phase", "playing", 10000);
+        tryCompare(page, "evidence", true, 10000);
+        compare(Phone.log, ["record " + data.source, "stop", "play"]);
+        mouseClick(find("record"));
+        shell.leaveTest();
+        compare(Phone.log.slice(3), ["record " + data.source, "stop"]);
+    }
+
+    function test_microphoneNeedsItsServer() {
+        Phone.sourceName = "";
+        openTest("VerificationAudio1Mic");
+        missingIs("sound server");
+    }
+
+    function test_radioIsSwitchedOffOnLeaving() {
+        openTest("VerificationFmRadio");
+        verify(!page.evidence);
+        mouseClick(find("radio"));
+        compare(Phone.log, ["radio on"]);
+        tryCompare(page, "evidence", true);
+        shell.leaveTest();
+        compare(Phone.log, ["radio on", "radio off"]);
+    }
+
+    function test_radioThatIsNotOffered() {
+        Phone.offersRadio = false;
+        openTest("VerificationFmRadio");
+        mouseClick(find("radio"));
+        tryCompare(page, "refused", true);
+    }
+
     function test_batteryMissing() {
         Phone.battery = {};
         openTest("VerificationBattery");

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import KivFake 1.0
+
+QtObject {
+    function primarySinkName() { return Phone.sinkName; }
+    function primarySinkActivePort() { return Phone.sinkPort; }
+    function builtinSourceName() { return Phone.sourceName; }
+    function setPrimarySinkPort(port) { Phone.sinkPort = port; Phone.note("port " + port); }
+}
