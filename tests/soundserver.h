@@ -84,8 +84,8 @@ public:
         m_server->setStandardErrorFile(QStringLiteral("/run/kiv-test/server.log"));
         m_server->start(QStringLiteral("/usr/bin/pulseaudio"),
                         {QStringLiteral("-n"), QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--daemonize=no"),
-                         QStringLiteral("--use-pid-file=no"), QStringLiteral("--disable-shm=yes"),
-                         QStringLiteral("-F"), QStringLiteral("/run/kiv-test/server.pa")});
+                         QStringLiteral("--use-pid-file=no"), QStringLiteral("--disable-shm=yes"), QStringLiteral("-F"),
+                         QStringLiteral("/run/kiv-test/server.pa")});
         QElapsedTimer timer;
         timer.start();
         while (QProcess::execute(QStringLiteral("/bin/sh"),

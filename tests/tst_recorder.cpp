@@ -177,9 +177,9 @@ void tst_Recorder::init()
 void tst_Recorder::startServer()
 {
     QVERIFY(m_server.start());
-    QTRY_VERIFY_WITH_TIMEOUT(
-        !QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty()
-            && QAudioDeviceInfo::defaultInputDevice().deviceName() == QLatin1String("phone.mics"), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(!QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty()
+                                 && QAudioDeviceInfo::defaultInputDevice().deviceName() == QLatin1String("phone.mics"),
+                             30000);
 }
 
 void tst_Recorder::metaObject()
@@ -439,8 +439,7 @@ void tst_Recorder::kivMode()
     // The hardware is set up before the port is switched.
     recorder.setInputSource(Recorder::TopMicrophone);
     recorder.record();
-    QCOMPARE(commands(),
-             QByteArrayList({SinkQuery, setMode("on"), PortQuery, SourceQuery, setPort("input-back_mic")}));
+    QCOMPARE(commands(), QByteArrayList({SinkQuery, setMode("on"), PortQuery, SourceQuery, setPort("input-back_mic")}));
 }
 
 void tst_Recorder::kivModeChangedMeanwhile()
