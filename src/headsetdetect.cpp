@@ -36,19 +36,25 @@ constexpr Button Buttons[] = {
     {BTN_8, "BTN_8"},       {BTN_9, "BTN_9"}, {KEY_MEDIA, "KEY_MEDIA"}, {KEY_PLAYPAUSE, "KEY_PLAYPAUSE"},
 };
 
-constexpr std::array<quint16, KEY_CNT> makeBitOfCode()
+/*! By key code: the button's bit, or 0 for a key that is none of ours. */
+struct ButtonBits
 {
-    std::array<quint16, KEY_CNT> bits{};
-    quint16 bit = 1;
-    for (const Button &button : Buttons) {
-        bits[button.code] = bit;
-        bit = quint16(bit << 1);
+    constexpr ButtonBits()
+    {
+        quint16 bit = 1;
+        for (const Button &button : Buttons) {
+            m_bits[button.code] = bit;
+            bit = quint16(bit << 1);
+        }
     }
-    return bits;
-}
 
-// By key code: the button's bit, or 0 for a key that is none of ours.
-constexpr std::array<quint16, KEY_CNT> BitOfCode = makeBitOfCode();
+    constexpr uint of(unsigned code) const { return code < KEY_CNT ? m_bits[code] : 0; }
+
+private:
+    quint16 m_bits[KEY_CNT] = {};
+};
+
+constexpr ButtonBits BitOfButton;
 
 /*! Whether this is an event device that has events of the type. */
 bool hasEventType(int fd, const QString &path, int type)
@@ -187,7 +193,7 @@ void HeadsetDetect::readButtonData(int fd)
     uint pressed = m_buttonsPressed;
     errno = 0;
     const ssize_t size = readInputRecords(fd, [&pressed](const input_event &record) {
-        const uint bit = record.type == EV_KEY && record.code < BitOfCode.size() ? BitOfCode[record.code] : 0;
+        const uint bit = record.type == EV_KEY ? BitOfButton.of(record.code) : 0;
         if (bit == 0)
             return;
         const bool down = record.value == 1;
