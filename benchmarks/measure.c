@@ -22,7 +22,12 @@
 #include <time.h>
 #include <unistd.h>
 
-enum { MaxCommands = 8, MaxRuns = 10000, MemoryRuns = 9 };
+enum
+{
+    MaxCommands = 8,
+    MaxRuns = 10000,
+    MemoryRuns = 9
+};
 
 extern char **environ;
 
