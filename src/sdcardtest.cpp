@@ -143,7 +143,7 @@ int SdCardTest::sdCardIOTest()
     if (m_status != Mounted)
         return NotRun;
     const QString mountPath = m_card.mountPath();
-    if (mountPath.isEmpty() || !QFileInfo(mountPath).isDir())
+    if (!QFileInfo(mountPath).isDir()) // nor is an empty path one
         return NotRun;
 
     const QString path = mountPath + TestFile;
