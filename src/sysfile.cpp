@@ -26,7 +26,8 @@ ssize_t readChunk(int fd, char *buffer)
 /*! Reads until the delimiter, which is left out, or to the end where there is none. */
 QByteArray readUntil(const QString &path, int delimiter)
 {
-    const UniqueFd file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
+    // A pipe that lies in the file's place must not hold up the page. Files do not care.
+    const UniqueFd file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.isOpen())
         return QByteArray();
 
