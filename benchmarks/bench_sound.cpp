@@ -99,7 +99,7 @@ QByteArray listing(int streams)
         const QByteArray number = QByteArray::number(i);
         text += "Sink Input #" + number
             + "\n\tDriver: protocol-native.c\n\tOwner Module: 10\n\tClient: 12\n\tSink: 0\n"
-              "\tSample Specification: s16le 2ch 48000Hz\n\tChannel Map: front-left,front-right\n"
+              "\tResample method: copy\n\tChannel Map: front-left,front-right\n"
               "\tFormat: pcm, format.sample_format = \"\\\"s16le\\\"\"  format.rate = \"48000\"\n"
               "\tCorked: no\n\tMute: no\n"
               "\tVolume: front-left: 65536 / 100% / 0.00 dB,   front-right: 52428 /  80% / -5.81 dB\n"
