@@ -139,4 +139,6 @@ void AudioRoute::readFeatures(const QDBusArgument &features)
         features.endStructure();
         handleAudioFeatureChanged(name, allowed, enabled);
     }
+    // Gives the array's reader back, which would leak otherwise.
+    features.endArray();
 }

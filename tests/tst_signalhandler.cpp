@@ -210,6 +210,9 @@ void tst_SignalHandler::survivesBurst()
 
 void tst_SignalHandler::withoutPairInstallsNothing()
 {
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("The sanitizers look at objects through a pipe, for which no descriptor is left here");
+#endif
     const std::set<int> before = openDescriptors();
     struct rlimit limit;
     QCOMPARE(::getrlimit(RLIMIT_NOFILE, &limit), 0);
