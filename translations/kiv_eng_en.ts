@@ -242,7 +242,7 @@
     </message>
     <message id="kiv-reason-reading">
         <source>%1: %2 (%3)</source>
-        <extracomment>A reading that is not as it should be: its name, its value, what is wrong with it</extracomment>
+        <extracomment>A reading that is not as it should be: its name, its value, what it should be</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-battery-instructions">

@@ -59,9 +59,10 @@ Item {
             return;
         }
         judge(FactoryUtils.Fail, bad.map(function(reading) {
-            //: A reading that is not as it should be: its name, its value, what is wrong with it
+            //: A reading that is not as it should be: its name, its value, what it should be
             //% "%1: %2 (%3)"
-            return qsTrId("kiv-reason-reading").arg(reading.name).arg(reading.valueText).arg(reading.resultText);
+            return qsTrId("kiv-reason-reading").arg(reading.name).arg(reading.valueText)
+                                               .arg(reading.limitsText || reading.resultText);
         }).join("\n"));
     }
 
