@@ -6,143 +6,144 @@
 //   needs:   features of which the phone must have at least one; none: every phone has it
 //   kind:    "measured" decides by itself, "guided" is judged by the operator
 //   seconds: how long a practised operator takes
+//   timeout: seconds after which the operator is asked how to go on
 //   runIn:   place in the run-in sequence where that differs from this order
 var rows = [
     //% "Touch panel self-test"
     { name: "TouchSelfTest", title: QT_TRID_NOOP("kiv-test-touch-self"), needs: ["TouchAuto"], page: "TouchSelfTest.qml",
-      glyph: "touch", kind: "measured", seconds: 10 },
+      glyph: "touch", kind: "measured", seconds: 10, timeout: 60 },
     //% "Touch panel"
     { name: "VerificationTouch", title: QT_TRID_NOOP("kiv-test-touch"), needs: ["Touch"], page: "VerificationTouch.qml",
-      glyph: "touch", kind: "measured", seconds: 30 },
+      glyph: "touch", kind: "measured", seconds: 30, timeout: 120 },
     //% "Several fingers"
     { name: "VerificationMultiTouch", title: QT_TRID_NOOP("kiv-test-multi-touch"), needs: ["Touch"], page: "VerificationMultiTouch.qml",
-      glyph: "multitouch", kind: "measured", seconds: 15 },
+      glyph: "multitouch", kind: "measured", seconds: 15, timeout: 60 },
     //% "Display"
     { name: "VerificationLcd", title: QT_TRID_NOOP("kiv-test-lcd"), needs: ["LCD"], page: "",
-      glyph: "display", kind: "guided", seconds: 25, runIn: 3 },
+      glyph: "display", kind: "guided", seconds: 25, timeout: 100, runIn: 3 },
     //% "Display backlight"
     { name: "VerificationLcdBacklight", title: QT_TRID_NOOP("kiv-test-lcd-backlight"), needs: ["Backlight"], page: "",
-      glyph: "light", kind: "guided", seconds: 15, runIn: 1 },
+      glyph: "light", kind: "guided", seconds: 15, timeout: 60, runIn: 1 },
     //% "Light sensor"
     { name: "VerificationLightSensor", title: QT_TRID_NOOP("kiv-test-light"), needs: ["LightSensor"], page: "VerificationLightSensor.qml",
-      glyph: "light", kind: "measured", seconds: 15 },
+      glyph: "light", kind: "measured", seconds: 15, timeout: 60 },
     //% "Proximity sensor"
     { name: "VerificationProxSensor", title: QT_TRID_NOOP("kiv-test-prox"), needs: ["ProxSensor"], page: "VerificationProxSensor.qml",
-      glyph: "proximity", kind: "measured", seconds: 15 },
+      glyph: "proximity", kind: "measured", seconds: 15, timeout: 60 },
     //% "Gyroscope and accelerometer"
     { name: "VerificationGyroAndGSensor", title: QT_TRID_NOOP("kiv-test-gyro"), needs: ["GSensor", "Gyro"], page: "VerificationGyroAndGSensor.qml",
-      glyph: "motion", kind: "measured", seconds: 20 },
+      glyph: "motion", kind: "measured", seconds: 20, timeout: 80 },
     //% "Compass"
     { name: "VerificationEcompass", title: QT_TRID_NOOP("kiv-test-ecompass"), needs: ["ECompass"], page: "VerificationEcompass.qml",
-      glyph: "compass", kind: "measured", seconds: 25 },
+      glyph: "compass", kind: "measured", seconds: 25, timeout: 100 },
     //% "Cover magnet switch"
     { name: "VerificationHallDetect", title: QT_TRID_NOOP("kiv-test-hall"), needs: ["Hall"], page: "VerificationHallDetect.qml",
-      glyph: "hall", kind: "measured", seconds: 15 },
+      glyph: "hall", kind: "measured", seconds: 15, timeout: 60 },
     //% "Fingerprint reader"
     { name: "VerificationFingerprint", title: QT_TRID_NOOP("kiv-test-fingerprint"), needs: ["Fingerprint"], page: "",
-      glyph: "fingerprint", kind: "guided", seconds: 20 },
+      glyph: "fingerprint", kind: "guided", seconds: 20, timeout: 80 },
     //% "Microphone 1"
     { name: "VerificationAudio1Mic", title: QT_TRID_NOOP("kiv-test-mic-1"), needs: ["AudioMic1"], page: "VerificationAudio1Mic.qml",
-      glyph: "microphone", kind: "guided", seconds: 25 },
+      glyph: "microphone", kind: "guided", seconds: 25, timeout: 100 },
     //% "Microphone 2"
     { name: "VerificationAudio2Mic", title: QT_TRID_NOOP("kiv-test-mic-2"), needs: ["AudioMic2"], page: "VerificationAudio2Mic.qml",
-      glyph: "microphone", kind: "guided", seconds: 25 },
+      glyph: "microphone", kind: "guided", seconds: 25, timeout: 100 },
     //% "Loudspeaker music"
     { name: "AudioPlayMusicLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-music"), needs: ["Loudspeaker"], page: "AudioPlayMusicLoudspeaker.qml",
-      glyph: "speaker", kind: "guided", seconds: 15, runIn: 4 },
+      glyph: "speaker", kind: "guided", seconds: 15, timeout: 60, runIn: 4 },
     //% "Loudspeaker left and right"
     { name: "AudioPlayStereoLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-stereo"), needs: ["Loudspeaker"], page: "AudioPlayStereoLoudspeaker.qml",
-      glyph: "speaker", kind: "guided", seconds: 20 },
+      glyph: "speaker", kind: "guided", seconds: 20, timeout: 80 },
     //% "Earpiece"
     { name: "AudioPlayMusicReceiver", title: QT_TRID_NOOP("kiv-test-receiver"), needs: ["Receiver"], page: "AudioPlayMusicReceiver.qml",
-      glyph: "receiver", kind: "guided", seconds: 15 },
+      glyph: "receiver", kind: "guided", seconds: 15, timeout: 60 },
     //% "Headset buttons"
     { name: "VerificationHeadsetButtons", title: QT_TRID_NOOP("kiv-test-headset-buttons"), needs: ["Headset"], page: "VerificationHeadsetButtons.qml",
-      glyph: "headset", kind: "measured", seconds: 20 },
+      glyph: "headset", kind: "measured", seconds: 20, timeout: 80 },
     //% "Headset socket"
     { name: "VerificationHeadset", title: QT_TRID_NOOP("kiv-test-headset"), needs: ["Headset"], page: "VerificationHeadset.qml",
-      glyph: "headset", kind: "measured", seconds: 20 },
+      glyph: "headset", kind: "measured", seconds: 20, timeout: 80 },
     //% "Headset music"
     { name: "AudioPlayMusicHeadset", title: QT_TRID_NOOP("kiv-test-headset-music"), needs: ["Headset"], page: "AudioPlayMusicHeadset.qml",
-      glyph: "headset", kind: "guided", seconds: 20 },
+      glyph: "headset", kind: "guided", seconds: 20, timeout: 80 },
     //% "Front camera"
     { name: "VerificationFrontCamera", title: QT_TRID_NOOP("kiv-test-front-camera"), needs: ["FrontCamera"], page: "",
-      glyph: "camera", kind: "guided", seconds: 20 },
+      glyph: "camera", kind: "guided", seconds: 20, timeout: 80 },
     //% "Back camera"
     { name: "VerificationBackCamera", title: QT_TRID_NOOP("kiv-test-back-camera"), needs: ["BackCamera"], page: "",
-      glyph: "camera", kind: "guided", seconds: 20, runIn: 2 },
+      glyph: "camera", kind: "guided", seconds: 20, timeout: 80, runIn: 2 },
     //% "Wi-Fi"
     { name: "VerificationWifi", title: QT_TRID_NOOP("kiv-test-wifi"), needs: ["Wifi"], page: "",
-      glyph: "radio", kind: "measured", seconds: 20 },
+      glyph: "radio", kind: "measured", seconds: 20, timeout: 80 },
     //% "Bluetooth"
     { name: "VerificationBluetooth", title: QT_TRID_NOOP("kiv-test-bluetooth"), needs: ["Bluetooth"], page: "",
-      glyph: "bluetooth", kind: "measured", seconds: 20 },
+      glyph: "bluetooth", kind: "measured", seconds: 20, timeout: 80 },
     //% "Smart cover"
     { name: "VerificationZel", title: QT_TRID_NOOP("kiv-test-zel"), needs: ["ZEL"], page: "",
-      glyph: "cover", kind: "measured", seconds: 30 },
+      glyph: "cover", kind: "measured", seconds: 30, timeout: 120 },
     //% "Satellite positioning"
     { name: "VerificationGpsRadio", title: QT_TRID_NOOP("kiv-test-gps"), needs: ["GPS"], page: "",
-      glyph: "gps", kind: "measured", seconds: 90 },
+      glyph: "gps", kind: "measured", seconds: 90, timeout: 360 },
     //% "FM radio"
     { name: "VerificationFmRadio", title: QT_TRID_NOOP("kiv-test-fm-radio"), needs: ["FmRadio"], page: "VerificationFmRadio.qml",
-      glyph: "fm", kind: "guided", seconds: 30 },
+      glyph: "fm", kind: "guided", seconds: 30, timeout: 120 },
     //% "Battery"
     { name: "VerificationBattery", title: QT_TRID_NOOP("kiv-test-battery"), needs: ["Battery"], page: "VerificationBattery.qml",
-      glyph: "battery", kind: "measured", seconds: 10 },
+      glyph: "battery", kind: "measured", seconds: 10, timeout: 60 },
     //% "USB charging"
     { name: "VerificationUsbCharging", title: QT_TRID_NOOP("kiv-test-usb-charging"), needs: ["UsbCharging"], page: "VerificationUsbCharging.qml",
-      glyph: "charging", kind: "measured", seconds: 30 },
+      glyph: "charging", kind: "measured", seconds: 30, timeout: 120 },
     //% "Notification light"
     { name: "VerificationLED", title: QT_TRID_NOOP("kiv-test-led"), needs: ["LED"], page: "",
-      glyph: "led", kind: "guided", seconds: 20 },
+      glyph: "led", kind: "guided", seconds: 20, timeout: 80 },
     //% "Key illumination"
     { name: "VerificationButtonBacklight", title: QT_TRID_NOOP("kiv-test-button-backlight"), needs: ["Backlight"], page: "",
-      glyph: "light", kind: "guided", seconds: 15 },
+      glyph: "light", kind: "guided", seconds: 15, timeout: 60 },
     //% "Vibrator"
     { name: "VerificationVibrator", title: QT_TRID_NOOP("kiv-test-vibrator"), needs: ["Vibrator"], page: "VerificationVibrator.qml",
-      glyph: "vibrator", kind: "guided", seconds: 15 },
+      glyph: "vibrator", kind: "guided", seconds: 15, timeout: 60 },
     //% "SIM card"
     { name: "VerificationSim", title: QT_TRID_NOOP("kiv-test-sim"), needs: ["SIM"], page: "",
-      glyph: "sim", kind: "measured", seconds: 20 },
+      glyph: "sim", kind: "measured", seconds: 20, timeout: 80 },
     //% "Memory card"
     { name: "VerificationSdCard", title: QT_TRID_NOOP("kiv-test-sd-card"), needs: ["SDCard"], page: "VerificationSdCard.qml",
-      glyph: "sdcard", kind: "measured", seconds: 20 },
+      glyph: "sdcard", kind: "measured", seconds: 20, timeout: 80 },
     //% "Keys"
     { name: "VerificationKey", title: QT_TRID_NOOP("kiv-test-key"), needs: ["Key"], page: "VerificationKey.qml",
-      glyph: "key", kind: "measured", seconds: 15 },
+      glyph: "key", kind: "measured", seconds: 15, timeout: 60 },
     //% "USB host"
     { name: "VerificationUsbOtg", title: QT_TRID_NOOP("kiv-test-usb-otg"), needs: ["UsbOtg"], page: "",
-      glyph: "usb", kind: "measured", seconds: 30 },
+      glyph: "usb", kind: "measured", seconds: 30, timeout: 120 },
     //% "Video playback"
     { name: "VerificationVideoPlayback", title: QT_TRID_NOOP("kiv-test-video"), needs: ["VideoPlayback"], page: "",
-      glyph: "video", kind: "guided", seconds: 30, runIn: 5 },
+      glyph: "video", kind: "guided", seconds: 30, timeout: 120, runIn: 5 },
     //% "Battery resistance"
     { name: "VerificationBatteryResistance", title: QT_TRID_NOOP("kiv-test-battery-resistance"), needs: ["Battery"], page: "",
-      glyph: "battery", kind: "measured", seconds: 60 },
+      glyph: "battery", kind: "measured", seconds: 60, timeout: 240 },
     //% "Suspend"
     { name: "Suspend", title: QT_TRID_NOOP("kiv-test-suspend"), needs: ["Suspend"], page: "",
-      glyph: "sleep", kind: "guided", seconds: 30 },
+      glyph: "sleep", kind: "guided", seconds: 30, timeout: 120 },
     //% "Restart"
     { name: "Reboot", title: QT_TRID_NOOP("kiv-test-reboot"), needs: ["Reboot"], page: "",
-      glyph: "power", kind: "guided", seconds: 60 },
+      glyph: "power", kind: "guided", seconds: 60, timeout: 240 },
     //% "Phone call"
     { name: "CellularVoice", title: QT_TRID_NOOP("kiv-test-cellular-voice"), needs: ["CellularVoice"], page: "",
-      glyph: "call", kind: "guided", seconds: 60 },
+      glyph: "call", kind: "guided", seconds: 60, timeout: 240 },
     //% "Mobile data"
     { name: "CellularData", title: QT_TRID_NOOP("kiv-test-cellular-data"), needs: ["CellularData"], page: "",
-      glyph: "data", kind: "guided", seconds: 60 },
+      glyph: "data", kind: "guided", seconds: 60, timeout: 240 },
     //% "Network addresses"
     { name: "MacAddresses", title: QT_TRID_NOOP("kiv-test-mac-addresses"), needs: ["MacAddresses"], page: "MacAddresses.qml",
-      glyph: "address", kind: "measured", seconds: 5 },
+      glyph: "address", kind: "measured", seconds: 5, timeout: 60 },
     //% "Calibration record"
     { name: "Calibration", title: QT_TRID_NOOP("kiv-test-calibration"), needs: [], page: "Calibration.qml",
-      glyph: "calibration", kind: "measured", seconds: 5 },
+      glyph: "calibration", kind: "measured", seconds: 5, timeout: 60 },
     //% "Sensor calibration"
     { name: "SensorCalibration", title: QT_TRID_NOOP("kiv-test-sensor-calibration"), needs: [], page: "SensorCalibration.qml",
-      glyph: "calibration", kind: "guided", seconds: 60 },
+      glyph: "calibration", kind: "guided", seconds: 60, timeout: 240 },
     //% "System state"
     { name: "SystemState", title: QT_TRID_NOOP("kiv-test-system"), needs: [], page: "SystemState.qml",
-      glyph: "system", kind: "guided", seconds: 20 }
+      glyph: "system", kind: "guided", seconds: 20, timeout: 80 }
 ];
 
 // The values of Features.TestMode.
