@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
+import QtQuick.Window 2.15
 import Kiv 1.0
 import "controls"
 import "flow"
@@ -12,12 +13,14 @@ Item {
     id: shell
 
     /*! Where to begin: empty for the disclaimer and then home, or the name of a screen ("home", "disclaimer", "list",
-     *  "summary", "settings") or of a test. */
+     *  "summary", "settings", "run-in", "engineer") or of a test. */
     property string startPage
     property bool dark: false
 
     readonly property alias flow: flow
     readonly property alias screen: screens.item
+    /*! A call that blocks is about to be made or is being made. */
+    readonly property bool busy: working.item !== null && working.item.visible
     /*! Whether the present test was opened by itself from the list. */
     property bool single: false
 
@@ -29,6 +32,8 @@ Item {
             working.item.cancel();
         leaveScreen();
         screens.setSource("screens/" + name + ".qml", { "shell": shell });
+        if (screen)
+            screen.focus = true;
     }
 
     /*! The old screen is deleted later; what its page changed is put back at once. */
@@ -67,13 +72,26 @@ Item {
         showTest();
     }
 
+    /*! The run-in tests over and over. */
+    function startRunIn() {
+        flow.start([]);
+        show("RunInScreen");
+    }
+
     function showTest() {
         if (flow.current)
             show("TestScreen");
         else if (single)
             showList();
         else
-            show("SummaryScreen");
+            showSummary();
+    }
+
+    /*! The end of a run. */
+    function showSummary() {
+        reporter.reportRun();
+        cue(flow.overallCode() === FactoryUtils.Pass ? "pass" : "fail");
+        show("SummaryScreen");
     }
 
     function showList() {
@@ -84,9 +102,94 @@ Item {
             show("ListScreen");
     }
 
-    function nextTest() {
+    /*! Goes on after a verdict, which stays visible for a moment. */
+    function nextTest(code) {
         flow.advance();
+        if (!single && flow.current)
+            flash.show(code);
         showTest();
+    }
+
+    /*! A short sound: "pass", "fail" or "attention". */
+    function cue(name) {
+        cues.active = true;
+        cues.item.play(name);
+    }
+
+    /*! The text of the result's QR code. */
+    function codeText() {
+        return reporter.codeText();
+    }
+
+    // A phone whose panel is dead still has keys at its side.
+    function sideKeyOf(key) {
+        switch (key) {
+        case Qt.Key_VolumeUp:
+            return "up";
+        case Qt.Key_VolumeDown:
+            return "down";
+        case Qt.Key_PowerOff:
+        case Qt.Key_PowerDown:
+        case Qt.Key_Standby:
+        case Qt.Key_Sleep:
+        case Qt.Key_Suspend:
+            return "power";
+        }
+        return "";
+    }
+
+    function pressFocused() {
+        var item = Window.activeFocusItem;
+        if (!item || !item.enabled)
+            return;
+        if (item.activated)
+            item.activated();
+        else if (item.clicked)
+            item.clicked();
+    }
+
+    function moveFocus(forward) {
+        var from = Window.activeFocusItem || shell;
+        var item = from.nextItemInFocusChain(forward);
+        if (!item)
+            return;
+        item.forceActiveFocus(Qt.TabFocusReason);
+        reveal(item);
+    }
+
+    function reveal(item) {
+        var view = item.parent;
+        while (view && view.contentY === undefined)
+            view = view.parent;
+        if (!view)
+            return;
+        var top = item.mapToItem(view.contentItem, 0, 0).y;
+        if (top < view.contentY)
+            view.contentY = top;
+        else if (top + item.height > view.contentY + view.height)
+            view.contentY = top + item.height - view.height;
+    }
+
+    focus: true
+    Keys.onPressed: {
+        var key = sideKeyOf(event.key);
+        if (key === "")
+            return;
+        event.accepted = true;
+        if (event.isAutoRepeat || busy || flash.visible || (screen.sideKey && screen.sideKey(key)))
+            return;
+        if (key === "power")
+            pressFocused();
+        else
+            moveFocus(key === "down");
+    }
+    Keys.onReleased: {
+        var key = sideKeyOf(event.key);
+        if (key === "" || event.isAutoRepeat)
+            return;
+        event.accepted = true;
+        if (screen.sideKeyReleased)
+            screen.sideKeyReleased(key);
     }
 
     /*! Leaves the present test without a verdict. */
@@ -121,6 +224,11 @@ Item {
         } else if (startPage === "summary") {
             flow.choose(TestTable.FactoryTests, features());
             show("SummaryScreen");
+        } else if (startPage === "run-in") {
+            flow.choose(TestTable.RunInTests, features());
+            startRunIn();
+        } else if (startPage === "engineer") {
+            show("EngineerScreen");
         } else {
             var row = TestTable.row(startPage);
             if (row)
@@ -153,6 +261,22 @@ Item {
 
     Flow {
         id: flow
+        onRecorded: reporter.reportVerdict(name, verdict)
+    }
+    Reporter {
+        id: reporter
+        flow: flow
+    }
+
+    // A receiver takes minutes to find satellites: it starts with the sequence.
+    Loader {
+        active: !shell.single && flow.isAhead("VerificationGpsRadio")
+        source: "flow/Satellites.qml"
+    }
+    Loader {
+        id: cues
+        active: false
+        source: "controls/Cue.qml"
     }
 
     Rectangle {
@@ -164,6 +288,11 @@ Item {
         id: screens
         anchors.fill: parent
         focus: true
+    }
+
+    VerdictFlash {
+        id: flash
+        anchors.fill: parent
     }
 
     // Made when it is first wanted.

@@ -25,6 +25,9 @@ QtObject {
     /*! Name to verdict, see record(). Replaced as a whole, so that bindings follow. */
     property var results: ({})
 
+    /*! A verdict was kept. */
+    signal recorded(string name, var verdict)
+
     readonly property int secondsLeft: {
         var seconds = 0;
         for (var i = position; i < run.length; ++i)
@@ -56,18 +59,51 @@ QtObject {
             ++position;
     }
 
+    /*! Whether a test is still to come in this run. */
+    function isAhead(name) {
+        return run.some(function(row, place) { return place >= flow.position && row.name === name; });
+    }
+
     /*!
-     * Keeps a verdict: {code, reason, decided (the page's own code or empty), overruled, seconds, readings}. The number
-     * of attempts is counted here.
+     * Keeps a verdict:
+     *   code       one of FactoryUtils' codes
+     *   decided    the page's own code, empty if it had none
+     *   overruled  whether the operator decided against it
+     *   why, whyText   the operator's reason for overruling or skipping, as a word for machines and in his language
+     *   reason     the page's reason
+     *   timedOut   whether the time had run out
+     *   seconds    how long it took
+     *   readings   the measurements at that moment
+     * attempts and spent, the seconds of all attempts together, are counted here.
      */
     function record(name, verdict) {
+        keep(name, verdict, verdict);
+        recorded(name, results[name]);
+    }
+
+    /*! An attempt that was broken off to try again: it is counted, and the verdict so far stands. */
+    function noteAttempt(name, attempt) {
+        keep(name, attempt, results[name] || copyOf(attempt, { code: FactoryUtils.Untest, decided: "", reason: "" }));
+    }
+
+    function keep(name, attempt, verdict) {
         var earlier = results[name];
-        verdict.attempts = (earlier ? earlier.attempts : 0) + 1;
-        var all = {};
-        for (var key in results)
-            all[key] = results[key];
-        all[name] = verdict;
-        results = all;
+        var kept = {};
+        kept[name] = copyOf(verdict, {
+            attempts: (earlier ? earlier.attempts : 0) + 1,
+            spent: (earlier ? earlier.spent : 0) + (attempt.seconds || 0),
+            history: (earlier ? earlier.history : []).concat([attempt])
+        });
+        results = copyOf(results, kept);
+    }
+
+    function copyOf(object, changes) {
+        var copy = {};
+        for (var key in object)
+            copy[key] = object[key];
+        for (var change in changes)
+            copy[change] = changes[change];
+        return copy;
     }
 
     function code(name) {
@@ -85,5 +121,20 @@ QtObject {
 
     function entryCode(entry) {
         return entry.state === "absent" ? FactoryUtils.NA : code(entry.row.name);
+    }
+
+    /*! Failed if a test failed; passed only if none failed, none is left and one passed at all. */
+    function overallCode() {
+        return count(FactoryUtils.Fail) > 0 ? FactoryUtils.Fail
+               : count(FactoryUtils.Untest) > 0 || count(FactoryUtils.Pass) === 0 ? FactoryUtils.Untest
+               : FactoryUtils.Pass;
+    }
+
+    /*! The sum of a number, "attempts" or "spent", over the tests of the sequence. */
+    function total(number) {
+        return entries.reduce(function(sum, entry) {
+            var result = flow.results[entry.row.name];
+            return sum + (result ? result[number] : 0);
+        }, 0);
     }
 }

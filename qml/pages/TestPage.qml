@@ -27,6 +27,13 @@ Item {
     /*! Whether enough has been seen for a pass, and what is still missing. */
     property bool evidence: true
     property string evidenceHint
+    /*! What is going wrong on a page that otherwise the operator judges: a player's error, a camera without pictures. It
+     *  is shown, and where nobody watches, in the run-in, it fails the test. */
+    property string trouble
+    /*! The page needs the volume and power keys itself; elsewhere they give verdicts. */
+    property bool ownsKeys: false
+    /*! Nobody watches: the page starts by itself what it tests, and asks nothing. */
+    readonly property bool unattended: frame !== null && frame.unattended === true
     /*! The page wants the whole screen. */
     property bool fullScreen: false
     /*! Drawn over the whole screen while fullScreen. */

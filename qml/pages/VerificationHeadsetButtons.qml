@@ -43,6 +43,7 @@ TestPage {
     //% "Plug the headset in and press each of its buttons once."
     instructions: qsTrId("kiv-headset-buttons-instructions")
     measurements: [socket, pressed]
+    ownsKeys: true
     evidence: seen !== 0
     //% "Pass unlocks when a button was pressed and let go."
     evidenceHint: qsTrId("kiv-headset-buttons-hint")

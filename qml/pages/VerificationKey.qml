@@ -28,6 +28,7 @@ TestPage {
 
     //% "Press each key once and let it go."
     instructions: qsTrId("kiv-key-instructions")
+    ownsKeys: true
     evidence: false
     //% "Pass unlocks when every key was pressed and let go."
     evidenceHint: qsTrId("kiv-key-hint")

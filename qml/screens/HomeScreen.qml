@@ -3,7 +3,7 @@ import QtQuick 2.15
 import "../controls"
 import "../flow/TestTable.js" as TestTable
 
-/*! The three sequences. It is the first screen, so it asks the phone nothing. */
+/*! The three sequences, and the engineer's view. It is the first screen, so it asks the phone nothing. */
 Item {
     id: screen
 
@@ -65,6 +65,16 @@ Item {
             //% "Everything this phone has, one by one or in a row"
             detail: qsTrId("kiv-mode-all-detail")
             onClicked: screen.shell.chooseSequence(TestTable.AllTests)
+        }
+        ModeButton {
+            width: parent.width
+            objectName: "engineer"
+            glyph: "engineer"
+            //% "Engineer's view"
+            text: qsTrId("kiv-mode-engineer")
+            //% "Raw values, the settings that were found, sound streams and processes"
+            detail: qsTrId("kiv-mode-engineer-detail")
+            onClicked: screen.shell.show("EngineerScreen")
         }
     }
 }

@@ -11,11 +11,7 @@ Item {
 
     property var shell
     readonly property var flow: shell ? shell.flow : null
-    readonly property int failed: flow ? flow.count(FactoryUtils.Fail) : 0
-    readonly property int untested: flow ? flow.count(FactoryUtils.Untest) : 0
-    readonly property int passed: flow ? flow.count(FactoryUtils.Pass) : 0
-    readonly property string code: failed > 0 ? FactoryUtils.Fail
-                                   : untested > 0 || passed === 0 ? FactoryUtils.Untest : FactoryUtils.Pass
+    readonly property string code: flow ? flow.overallCode() : FactoryUtils.Untest
     readonly property var look: Style.looks[code]
     readonly property var order: [FactoryUtils.Fail, FactoryUtils.Untest, FactoryUtils.NA, FactoryUtils.Pass]
     readonly property var sorted: {
@@ -25,9 +21,21 @@ Item {
         return all;
     }
 
+    function duration(seconds) {
+        return seconds < 60
+               //: A duration
+               //% "%1 s"
+               ? qsTrId("kiv-duration-seconds").arg(seconds)
+               //: A duration: minutes and seconds
+               //% "%1 min %2 s"
+               : qsTrId("kiv-duration-minutes").arg(Math.floor(seconds / 60)).arg(seconds % 60);
+    }
+
     function remark(entry) {
         if (entry.state === "absent")
-            return qsTrId("kiv-list-absent");
+            //: The features that the phone's configuration and a look at its hardware rule out
+            //% "Not on this phone: %1"
+            return qsTrId("kiv-summary-absent").arg(entry.row.needs.join(", "));
         if (entry.state === "unwritten")
             return qsTrId("kiv-list-unwritten");
         var result = flow.results[entry.row.name];
@@ -35,14 +43,21 @@ Item {
             return "";
         var parts = [];
         if (result.overruled)
-            //: The operator's verdict differs from the page's own, which follows
-            //% "Overruled by the operator; measured: %1"
-            parts.push(qsTrId("kiv-summary-overruled").arg(Style.word(result.decided)));
-        if (result.reason !== "")
+            //: The operator's verdict differs from the page's own, which follows, with his reason
+            //% "Overruled by the operator: %2. Measured: %1"
+            parts.push(qsTrId("kiv-summary-overruled").arg(Style.word(result.decided)).arg(result.whyText || "-"));
+        else if (result.whyText)
+            parts.push(result.whyText);
+        if (result.reason)
             parts.push(result.reason);
+        if (result.timedOut)
+            //% "The time had run out"
+            parts.push(qsTrId("kiv-summary-timed-out"));
         if (result.attempts > 1)
             //% "Attempts: %1"
             parts.push(qsTrId("kiv-summary-attempts").arg(result.attempts));
+        if (result.spent)
+            parts.push(duration(result.spent));
         return parts.join("\n");
     }
 
@@ -118,9 +133,27 @@ Item {
             }
         }
     }
+    Words {
+        id: totals
+        objectName: "totals"
+        anchors.top: counts.bottom
+        anchors.topMargin: Theme.gap
+        x: Theme.margin
+        width: parent.width - 2 * Theme.margin
+        horizontalAlignment: Text.AlignHCenter
+        color: Theme.muted
+        font.pixelSize: Theme.small
+        visible: screen.flow !== null && screen.flow.total("attempts") > 0
+        height: visible ? implicitHeight + Theme.gap : 0
+        text: screen.flow
+              //: Totals of a sequence: how many attempts, how long
+              //% "Attempts: %1, time: %2"
+              ? qsTrId("kiv-summary-totals").arg(screen.flow.total("attempts"))
+                                            .arg(screen.duration(screen.flow.total("spent"))) : ""
+    }
     ListView {
         id: list
-        anchors.top: counts.bottom
+        anchors.top: totals.bottom
         anchors.bottom: footer.top
         width: parent.width
         clip: true
@@ -194,6 +227,14 @@ Item {
         anchors.bottom: parent.bottom
         width: parent.width
 
+        PushButton {
+            width: parent.width
+            objectName: "code"
+            glyph: "code"
+            //% "Code for the station"
+            text: qsTrId("kiv-summary-code")
+            onClicked: codeSheet.open(screen.shell.codeText())
+        }
         Row {
             width: parent.width
             spacing: Theme.gap
@@ -224,5 +265,10 @@ Item {
                 onClicked: screen.shell.nextUnit()
             }
         }
+    }
+
+    CodeSheet {
+        id: codeSheet
+        anchors.fill: parent
     }
 }

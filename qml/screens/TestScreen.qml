@@ -3,10 +3,11 @@ import QtQuick 2.15
 import Kiv 1.0
 import "../controls"
 import "../controls/VerdictStyle.js" as Style
+import "../flow/Report.js" as Report
 
 /*!
- * The frame that every test shares: where one is, what to do, the page's readings, and the verdict. It makes the page
- * anew for every attempt.
+ * The frame that every test shares: where one is, what to do, the page's readings, the time that is left, and the
+ * verdict. It makes the page anew for every attempt.
  */
 Item {
     id: screen
@@ -20,6 +21,10 @@ Item {
     readonly property bool fullScreen: page !== null && page.fullScreen
     readonly property string decided: page ? page.verdict : ""
     readonly property bool passUnlocked: decided !== "" || (page !== null && !absent && page.evidence)
+    readonly property alias sheet: sheet
+    /*! Seconds until the operator is asked how to go on. */
+    property int secondsLeft: 0
+    property bool timedOut: false
     property real started: 0
     property bool recorded: false
 
@@ -34,36 +39,172 @@ Item {
 
     function load() {
         leave();
+        sheet.close();
         hint.text = "";
         advance.stop();
         started = Date.now();
+        secondsLeft = row.timeout;
+        timedOut = false;
         loader.source = "";
         loader.setSource("../pages/" + row.page, { "frame": screen, "row": row });
     }
 
-    function record(code) {
+    /*! The page anew; what it had found out stays counted. */
+    function retry() {
+        flow.noteAttempt(row.name, outcome(decided === "" ? FactoryUtils.Untest : decided));
+        load();
+    }
+
+    function outcome(code) {
+        return {
+            "code": code,
+            "decided": decided,
+            "overruled": false,
+            "reason": broken ? qsTrId("kiv-page-broken") : absent ? page.missing
+                      : page ? page.reason || page.trouble : "",
+            "timedOut": timedOut,
+            "seconds": Math.round((Date.now() - started) / 1000),
+            "readings": page ? page.measurements.map(Report.reading) : []
+        };
+    }
+
+    /*! The operator's choice; against a measurement he has to say why. */
+    function choose(code) {
+        if (recorded || sheet.isOpen)
+            return;
+        if (decided !== "" && decided !== code)
+            askWhyOverruled(code);
+        else
+            record(code);
+    }
+
+    function record(code, why) {
         // A second tap on the way out is not a second verdict.
         if (recorded)
             return;
         recorded = true;
         advance.stop();
+        var verdict = outcome(code);
+        verdict.overruled = decided !== "" && decided !== code && code !== FactoryUtils.Untest;
+        verdict.why = why ? why.id : "";
+        verdict.whyText = why ? why.text : "";
         leave();
-        flow.record(row.name, {
-            "code": code,
-            "decided": decided,
-            "overruled": decided !== "" && decided !== code,
-            "reason": broken ? qsTrId("kiv-page-broken") : absent ? page.missing : page ? page.reason : "",
-            "seconds": Math.round((Date.now() - started) / 1000)
+        flow.record(row.name, verdict);
+        shell.nextTest(code);
+    }
+
+    function askWhyOverruled(code) {
+        advance.stop();
+        sheet.ask({
+            //% "Why against the measurement?"
+            title: qsTrId("kiv-overrule-title"),
+            //: The verdict that the phone has measured
+            //% "Measured: %1. The summary will show that you decided otherwise."
+            text: qsTrId("kiv-overrule-text").arg(Style.word(decided)),
+            glyph: Style.looks[code].glyph,
+            options: [
+                //% "A tool or an accessory was at fault"
+                { id: "equipment", text: qsTrId("kiv-overrule-equipment") },
+                //% "The limits do not suit this model"
+                { id: "limits", text: qsTrId("kiv-overrule-limits") },
+                //% "I saw, heard or felt it otherwise"
+                { id: "perceived", text: qsTrId("kiv-overrule-perceived") },
+                //% "A supervisor decided so"
+                { id: "supervisor", text: qsTrId("kiv-overrule-supervisor") }
+            ],
+            //% "Keep the measured verdict"
+            cancelText: qsTrId("kiv-overrule-cancel")
+        }, function(option) { screen.record(code, option); });
+    }
+
+    function askWhySkipped() {
+        if (recorded || sheet.isOpen)
+            return;
+        advance.stop();
+        sheet.ask({
+            //% "Why is this test skipped?"
+            title: qsTrId("kiv-skip-title"),
+            //% "It stays not tested unless the phone is not meant to have this part."
+            text: qsTrId("kiv-skip-text"),
+            glyph: "next",
+            options: [
+                //% "An accessory or a tool is missing"
+                { id: "equipment", text: qsTrId("kiv-skip-equipment") },
+                //% "The phone has to be repaired first"
+                { id: "repair", text: qsTrId("kiv-skip-repair") },
+                //% "It is tested elsewhere or later"
+                { id: "later", text: qsTrId("kiv-skip-later") },
+                //% "This model is not meant to have this part"
+                { id: "not-fitted", text: qsTrId("kiv-skip-not-fitted"), glyph: "na", code: FactoryUtils.NA }
+            ],
+            //% "Go on testing"
+            cancelText: qsTrId("kiv-skip-cancel")
+        }, function(option) { screen.record(option.code || FactoryUtils.Untest, option); });
+    }
+
+    function askAfterTimeOut() {
+        timedOut = true;
+        shell.cue("attention");
+        sheet.ask({
+            //% "Time is up"
+            title: qsTrId("kiv-timeout-title"),
+            //: Name of a test
+            //% "%1 has no verdict yet."
+            text: qsTrId("kiv-timeout-text").arg(qsTrId(row.title)),
+            glyph: "runin",
+            options: [
+                //% "Give it more time"
+                { id: "wait", text: qsTrId("kiv-timeout-wait"), glyph: "runin" },
+                { id: "retry", text: qsTrId("kiv-test-retry"), glyph: "retry" },
+                { id: "fail", text: qsTrId("kiv-verdict-fail"), glyph: "fail" },
+                //% "Skip"
+                { id: "skip", text: qsTrId("kiv-verdict-skip"), glyph: "next" }
+            ]
+        }, function(option) {
+            if (option.id === "wait")
+                screen.secondsLeft = screen.row.timeout;
+            else if (option.id === "retry")
+                screen.retry();
+            else if (option.id === "fail")
+                screen.choose(FactoryUtils.Fail);
+            else
+                screen.askWhySkipped();
         });
-        shell.nextTest();
+    }
+
+    /*! A key at the side of the phone was pressed; see Shell. */
+    function sideKey(key) {
+        if (sheet.isOpen || (page && page.ownsKeys))
+            return false;
+        if (key === "up")
+            passByKey.restart();
+        else if (key === "down")
+            choose(FactoryUtils.Fail);
+        else
+            askWhySkipped();
+        return true;
+    }
+
+    function sideKeyReleased(key) {
+        if (key !== "up" || !passByKey.running)
+            return;
+        passByKey.stop();
+        hint.text = passUnlocked ? qsTrId("kiv-verdict-hold") : page && !absent ? page.evidenceHint : "";
     }
 
     Component.onCompleted: load()
 
     onDecidedChanged: {
         hint.text = "";
-        // A pass that was measured needs nobody; a failure waits for a look at it.
-        if (decided === FactoryUtils.Pass)
+        if (decided === "")
+            return;
+        shell.cue(decided === FactoryUtils.Pass ? "pass" : "fail");
+        goOn();
+    }
+
+    /*! A pass that was measured needs nobody; a failure waits for a look at it. */
+    function goOn() {
+        if (decided === FactoryUtils.Pass && !sheet.isOpen && !recorded)
             advance.start();
     }
 
@@ -81,17 +222,42 @@ Item {
                   : qsTrId("kiv-test-progress").arg(screen.flow.position + 1).arg(screen.flow.run.length)
                                                .arg(Math.max(1, Math.round(screen.flow.secondsLeft / 60)))
         onBack: screen.shell.leaveTest()
-        trailing: PushButton {
-            width: Theme.target
-            height: Theme.target
-            outlined: false
-            fill: "transparent"
-            objectName: "retry"
-            glyph: "retry"
-            //% "Try again"
-            Accessible.name: qsTrId("kiv-test-retry")
-            onClicked: screen.load()
-        }
+        trailing: [
+            Words {
+                id: clock
+                objectName: "clock"
+                readonly property bool low: screen.secondsLeft <= 15
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.ceil(clockWidth.advanceWidth) + 1
+                visible: screen.decided === ""
+                text: Math.floor(screen.secondsLeft / 60) + ":" + ("0" + screen.secondsLeft % 60).slice(-2)
+                horizontalAlignment: Text.AlignRight
+                color: low ? Theme.warn : Theme.muted
+                font.weight: low ? Font.Bold : Font.Normal
+                //: Time until the operator is asked how to go on
+                //% "Time left: %1"
+                Accessible.name: qsTrId("kiv-test-clock").arg(text)
+
+                TextMetrics {
+                    id: clockWidth
+                    font.family: clock.font.family
+                    font.pixelSize: clock.font.pixelSize
+                    font.weight: Font.Bold
+                    text: "00:00"
+                }
+            },
+            PushButton {
+                width: Theme.target
+                height: Theme.target
+                outlined: false
+                fill: "transparent"
+                objectName: "retry"
+                glyph: "retry"
+                //% "Try again"
+                Accessible.name: qsTrId("kiv-test-retry")
+                onClicked: screen.retry()
+            }
+        ]
     }
     Rectangle {
         id: progress
@@ -133,8 +299,14 @@ Item {
             visible: screen.absent
             kind: "near"
             text: screen.absent ? screen.page.missing : ""
-            //% "If the phone is meant to be without it, choose Not applicable."
+            //% "If this model is not meant to have it, choose Skip and say so."
             detail: qsTrId("kiv-page-missing-advice")
+        }
+        Notice {
+            width: parent.width
+            visible: text !== "" && !screen.absent
+            kind: "near"
+            text: screen.page ? screen.page.trouble : ""
         }
         Loader {
             id: loader
@@ -170,6 +342,27 @@ Item {
         onTriggered: {
             if (screen.page)
                 screen.page.open();
+        }
+    }
+
+    // Counted, not read from a clock: a call that blocks the interface takes no time from the operator.
+    Timer {
+        interval: 1000
+        repeat: true
+        running: screen.page !== null && screen.page.isOpen && screen.decided === "" && !sheet.isOpen
+                 && !screen.shell.busy && !screen.recorded && screen.secondsLeft > 0
+        onTriggered: {
+            if (--screen.secondsLeft === 0)
+                screen.askAfterTimeOut();
+        }
+    }
+
+    Timer {
+        id: passByKey
+        interval: 500
+        onTriggered: {
+            if (screen.passUnlocked)
+                screen.choose(FactoryUtils.Pass);
         }
     }
 
@@ -227,34 +420,33 @@ Item {
             VerdictButton {
                 id: failButton
                 objectName: "fail"
-                readonly property bool suggested: screen.decided === FactoryUtils.Fail
-                width: (parent.width - 2 * parent.spacing) * 0.29
+                readonly property bool suggested: screen.decided === FactoryUtils.Fail || screen.absent || screen.broken
+                width: (parent.width - 2 * parent.spacing) / 3
                 height: passButton.tallest
                 glyph: "fail"
                 fill: suggested ? Theme.fail : Theme.failTint
                 ink: suggested ? Theme.failInk : Theme.fail
                 //% "Fail"
                 text: qsTrId("kiv-verdict-fail")
-                onClicked: screen.record(FactoryUtils.Fail)
+                onClicked: screen.choose(FactoryUtils.Fail)
             }
             VerdictButton {
-                id: naButton
-                objectName: "na"
-                readonly property bool suggested: screen.absent
-                width: (parent.width - 2 * parent.spacing) * 0.35
+                id: skipButton
+                objectName: "skip"
+                width: (parent.width - 2 * parent.spacing) / 3
                 height: passButton.tallest
-                glyph: "na"
-                fill: suggested ? Theme.neutral : Theme.neutralTint
-                ink: suggested ? Theme.neutralInk : Theme.neutral
-                text: qsTrId("kiv-verdict-not-applicable")
-                onClicked: screen.record(FactoryUtils.NA)
+                glyph: "next"
+                fill: Theme.neutralTint
+                ink: Theme.neutral
+                text: qsTrId("kiv-verdict-skip")
+                onClicked: screen.askWhySkipped()
             }
             HoldButton {
                 id: passButton
                 objectName: "pass"
                 readonly property real tallest: Math.max(Theme.target + 2 * Theme.unit, failButton.implicitHeight,
-                                                         naButton.implicitHeight, implicitHeight)
-                width: (parent.width - 2 * parent.spacing) * 0.36
+                                                         skipButton.implicitHeight, implicitHeight)
+                width: (parent.width - 2 * parent.spacing) / 3
                 height: tallest
                 glyph: "pass"
                 enabled: screen.passUnlocked
@@ -264,7 +456,7 @@ Item {
                 text: qsTrId("kiv-verdict-pass")
                 //% "Hold Pass until it has filled up"
                 onTooShort: hint.text = qsTrId("kiv-verdict-hold")
-                onActivated: screen.record(FactoryUtils.Pass)
+                onActivated: screen.choose(FactoryUtils.Pass)
             }
         }
     }
@@ -272,5 +464,11 @@ Item {
     Loader {
         anchors.fill: parent
         sourceComponent: screen.fullScreen ? screen.page.cover : null
+    }
+
+    ChoiceSheet {
+        id: sheet
+        anchors.fill: parent
+        onIsOpenChanged: if (!isOpen) screen.goOn()
     }
 }

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import "VerdictStyle.js" as Style
+
+/*!
+ * The verdict that was just given, for a moment over the next test. It takes the taps of a hurried finger, which were meant
+ * for the test before.
+ */
+Rectangle {
+    id: flash
+
+    property string code: "00"
+    readonly property var look: Style.looks[code]
+
+    function show(newCode) {
+        code = newCode;
+        visible = true;
+        end.restart();
+    }
+
+    visible: false
+    color: Theme[look.ink]
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: Style.word(code)
+
+    MouseArea {
+        anchors.fill: parent
+    }
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Theme.margin
+        spacing: Theme.margin
+
+        Icon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: flash.look.glyph
+            color: Theme[flash.look.on]
+            size: 12 * Theme.unit
+        }
+        FittedWords {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            color: Theme[flash.look.on]
+            largest: Theme.display
+            font.weight: Font.Bold
+            text: Style.word(flash.code)
+        }
+    }
+    Timer {
+        id: end
+        interval: 600
+        onTriggered: flash.visible = false
+    }
+}
