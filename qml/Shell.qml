@@ -13,7 +13,7 @@ Item {
     id: shell
 
     /*! Where to begin: empty for the disclaimer and then home, or the name of a screen ("home", "disclaimer", "list",
-     *  "summary", "settings", "run-in", "engineer") or of a test. */
+     *  "summary", "settings", "runin", "engineer") or of a test. */
     property string startPage
     property bool dark: false
 
@@ -89,7 +89,7 @@ Item {
 
     /*! The end of a run. */
     function showSummary() {
-        reporter.reportRun();
+        reportRun();
         cue(flow.overallCode() === FactoryUtils.Pass ? "pass" : "fail");
         show("SummaryScreen");
     }
@@ -114,6 +114,14 @@ Item {
     function cue(name) {
         cues.active = true;
         cues.item.play(name);
+    }
+
+    function reportVerdict(name, verdict) {
+        reporter.reportVerdict(name, verdict);
+    }
+
+    function reportRun() {
+        reporter.reportRun();
     }
 
     /*! The text of the result's QR code. */
@@ -224,7 +232,7 @@ Item {
         } else if (startPage === "summary") {
             flow.choose(TestTable.FactoryTests, features());
             show("SummaryScreen");
-        } else if (startPage === "run-in") {
+        } else if (startPage === "runin") {
             flow.choose(TestTable.RunInTests, features());
             startRunIn();
         } else if (startPage === "engineer") {

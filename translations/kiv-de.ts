@@ -391,9 +391,10 @@
         <translation>Hinweis noch einmal lesen</translation>
     </message>
     <message id="kiv-summary-overruled">
-        <source>Overruled by the operator; measured: %1</source>
-        <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows</extracomment>
-        <translation>Vom Prüfer überstimmt; gemessen: %1</translation>
+        <source>Overruled by the operator: %2. Measured: %1</source>
+        <oldsource>Overruled by the operator; measured: %1</oldsource>
+        <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
+        <translation>Vom Prüfer überstimmt: %2. Gemessen: %1</translation>
     </message>
     <message id="kiv-summary-attempts">
         <source>Attempts: %1</source>
@@ -434,8 +435,9 @@
         <translation>Noch einmal</translation>
     </message>
     <message id="kiv-page-missing-advice">
-        <source>If the phone is meant to be without it, choose Not applicable.</source>
-        <translation>Wenn das Telefon so gebaut ist, wählen Sie „Entfällt“.</translation>
+        <source>If this model is not meant to have it, choose Skip and say so.</source>
+        <oldsource>If the phone is meant to be without it, choose Not applicable.</oldsource>
+        <translation>Wenn dieses Modell ohne dieses Teil gebaut wird, wählen Sie „Auslassen“ und geben Sie das an.</translation>
     </message>
     <message id="kiv-page-guided">
         <source>You judge this one: the phone cannot see the result itself.</source>
@@ -1354,6 +1356,244 @@
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>Das Radio ließ sich nicht einschalten: Die Tonsteuerung antwortet nicht oder bietet es nicht an.</translation>
+    </message>
+    <message id="kiv-summary-code">
+        <source>Code for the station</source>
+        <translation>Code für die Station</translation>
+    </message>
+    <message id="kiv-code-copy">
+        <source>Copy the text</source>
+        <translation>Text kopieren</translation>
+    </message>
+    <message id="kiv-code-close">
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="kiv-plot-range">
+        <source>%1 to %2</source>
+        <extracomment>The least and the greatest reading so far</extracomment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message id="kiv-mode-engineer">
+        <source>Engineer&apos;s view</source>
+        <translation>Ansicht für Entwickler</translation>
+    </message>
+    <message id="kiv-engineer-raw">
+        <source>Raw values</source>
+        <translation>Rohwerte</translation>
+    </message>
+    <message id="kiv-engineer-settings">
+        <source>Settings that were found</source>
+        <translation>Gefundene Einstellungen</translation>
+    </message>
+    <message id="kiv-engineer-probe">
+        <source>Look what the phone has</source>
+        <translation>Nachsehen, was das Telefon hat</translation>
+    </message>
+    <message id="kiv-engineer-tests">
+        <source>Tests</source>
+        <translation>Prüfungen</translation>
+    </message>
+    <message id="kiv-engineer-processes">
+        <source>Processes</source>
+        <translation>Prozesse</translation>
+    </message>
+    <message id="kiv-mode-engineer-detail">
+        <source>Raw values, the settings that were found, sound streams and processes</source>
+        <translation>Rohwerte, gefundene Einstellungen, Tonströme und Prozesse</translation>
+    </message>
+    <message id="kiv-run-in-stuck">
+        <source>The test did not begin in time.</source>
+        <translation>Die Prüfung begann nicht rechtzeitig.</translation>
+    </message>
+    <message id="kiv-run-in-exercised">
+        <source>It ran without trouble.</source>
+        <translation>Sie lief ohne Störung.</translation>
+    </message>
+    <message id="kiv-run-in-timeout">
+        <source>It came to no result in time.</source>
+        <translation>Sie kam nicht rechtzeitig zu einem Ergebnis.</translation>
+    </message>
+    <message id="kiv-run-in-end-time">
+        <source>The time is up.</source>
+        <translation>Die Zeit ist um.</translation>
+    </message>
+    <message id="kiv-run-in-end-failure">
+        <source>It stopped at the first failure.</source>
+        <translation>Beim ersten Fehler angehalten.</translation>
+    </message>
+    <message id="kiv-run-in-end-temperature">
+        <source>The battery reached %1.</source>
+        <extracomment>A temperature</extracomment>
+        <translation>Der Akku erreichte %1.</translation>
+    </message>
+    <message id="kiv-run-in-end-restart">
+        <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
+        <extracomment>Two times at which the phone was started</extracomment>
+        <translation>Das Telefon war laut Anfang am %1 und laut Ende am %2 gestartet worden: Es wurde neu gestartet, oder seine Uhr wurde gestellt.</translation>
+    </message>
+    <message id="kiv-run-in-end-operator">
+        <source>The operator ended it.</source>
+        <translation>Der Prüfer hat ihn beendet.</translation>
+    </message>
+    <message id="kiv-run-in-progress">
+        <source>Loop %1, test %2 of %3</source>
+        <extracomment>The run-in: number of the loop, place of the test in it, number of tests</extracomment>
+        <translation>Durchgang %1, Prüfung %2 von %3</translation>
+    </message>
+    <message id="kiv-test-clock">
+        <source>Time left: %1</source>
+        <extracomment>Time until the operator is asked how to go on</extracomment>
+        <translation>Noch %1</translation>
+    </message>
+    <message id="kiv-run-in-intro">
+        <source>Hours: %1. Meanwhile the phone repeats these tests and needs nobody:</source>
+        <oldsource>%2 tests run over and over for %1 hours. The phone needs nobody meanwhile.</oldsource>
+        <extracomment>A number of hours</extracomment>
+        <translation>Stunden: %1. So lange wiederholt das Telefon diese Prüfungen und braucht niemanden:</translation>
+    </message>
+    <message id="kiv-run-in-empty">
+        <source>No test of the run-in can run on this phone.</source>
+        <translation>Keine Prüfung des Dauerlaufs kann auf diesem Telefon laufen.</translation>
+    </message>
+    <message id="kiv-run-in-attended">
+        <source>These need an operator and stay not tested: %1</source>
+        <extracomment>Names of tests</extracomment>
+        <translation>Diese brauchen einen Prüfer und bleiben ungeprüft: %1</translation>
+    </message>
+    <message id="kiv-run-in-stop-on-failure">
+        <source>Stop at the first failure</source>
+        <translation>Beim ersten Fehler anhalten</translation>
+    </message>
+    <message id="kiv-run-in-go-on">
+        <source>Go on after a failure</source>
+        <translation>Nach einem Fehler weitermachen</translation>
+    </message>
+    <message id="kiv-run-in-limit">
+        <source>Stop when the battery reaches %1</source>
+        <extracomment>A temperature</extracomment>
+        <translation>Anhalten, wenn der Akku %1 erreicht</translation>
+    </message>
+    <message id="kiv-run-in-no-limit">
+        <source>Do not stop for the battery&apos;s temperature</source>
+        <translation>Nicht wegen der Akkutemperatur anhalten</translation>
+    </message>
+    <message id="kiv-run-in-machine-start">
+        <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
+        <extracomment>A date and time</extracomment>
+        <translation>Dieses Telefon wurde am %1 gestartet. Endete ein Dauerlauf ohne Ergebnis, so liegt es an einem Neustart seitdem.</translation>
+    </message>
+    <message id="kiv-run-in-total">
+        <source>Loops: %1, time: %2</source>
+        <extracomment>How far the run-in came: loops and time</extracomment>
+        <translation>Durchgänge: %1, Zeit: %2</translation>
+    </message>
+    <message id="kiv-run-in-failure">
+        <source>%1, loop %2</source>
+        <extracomment>A test that failed, and the number of the loop</extracomment>
+        <translation>%1, Durchgang %2</translation>
+    </message>
+    <message id="kiv-run-in-stop">
+        <source>End the run-in</source>
+        <translation>Dauerlauf beenden</translation>
+    </message>
+    <message id="kiv-duration-seconds">
+        <source>%1 s</source>
+        <extracomment>A duration</extracomment>
+        <translation>%1 s</translation>
+    </message>
+    <message id="kiv-duration-minutes">
+        <source>%1 min %2 s</source>
+        <extracomment>A duration: minutes and seconds</extracomment>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message id="kiv-summary-absent">
+        <source>Not on this phone: %1</source>
+        <extracomment>The features that the phone&apos;s configuration and a look at its hardware rule out</extracomment>
+        <translation>Nicht in diesem Telefon: %1</translation>
+    </message>
+    <message id="kiv-summary-timed-out">
+        <source>The time had run out</source>
+        <translation>Die Zeit war abgelaufen</translation>
+    </message>
+    <message id="kiv-summary-totals">
+        <source>Attempts: %1, time: %2</source>
+        <extracomment>Totals of a sequence: how many attempts, how long</extracomment>
+        <translation>Versuche: %1, Zeit: %2</translation>
+    </message>
+    <message id="kiv-overrule-title">
+        <source>Why against the measurement?</source>
+        <translation>Warum gegen die Messung?</translation>
+    </message>
+    <message id="kiv-overrule-text">
+        <source>Measured: %1. The summary will show that you decided otherwise.</source>
+        <extracomment>The verdict that the phone has measured</extracomment>
+        <translation>Gemessen: %1. Die Übersicht wird zeigen, dass Sie anders entschieden haben.</translation>
+    </message>
+    <message id="kiv-overrule-equipment">
+        <source>A tool or an accessory was at fault</source>
+        <translation>Ein Werkzeug oder Zubehör war schuld</translation>
+    </message>
+    <message id="kiv-overrule-limits">
+        <source>The limits do not suit this model</source>
+        <translation>Die Grenzen passen nicht zu diesem Modell</translation>
+    </message>
+    <message id="kiv-overrule-perceived">
+        <source>I saw, heard or felt it otherwise</source>
+        <translation>Ich habe es anders gesehen, gehört oder gefühlt</translation>
+    </message>
+    <message id="kiv-overrule-supervisor">
+        <source>A supervisor decided so</source>
+        <translation>Ein Vorgesetzter hat so entschieden</translation>
+    </message>
+    <message id="kiv-overrule-cancel">
+        <source>Keep the measured verdict</source>
+        <translation>Beim gemessenen Urteil bleiben</translation>
+    </message>
+    <message id="kiv-skip-title">
+        <source>Why is this test skipped?</source>
+        <translation>Warum wird diese Prüfung ausgelassen?</translation>
+    </message>
+    <message id="kiv-skip-text">
+        <source>It stays not tested unless the phone is not meant to have this part.</source>
+        <translation>Sie bleibt ungeprüft, außer wenn das Telefon dieses Teil gar nicht haben soll.</translation>
+    </message>
+    <message id="kiv-skip-equipment">
+        <source>An accessory or a tool is missing</source>
+        <translation>Ein Zubehör oder Werkzeug fehlt</translation>
+    </message>
+    <message id="kiv-skip-repair">
+        <source>The phone has to be repaired first</source>
+        <translation>Das Telefon muss erst repariert werden</translation>
+    </message>
+    <message id="kiv-skip-later">
+        <source>It is tested elsewhere or later</source>
+        <translation>Sie findet woanders oder später statt</translation>
+    </message>
+    <message id="kiv-skip-not-fitted">
+        <source>This model is not meant to have this part</source>
+        <translation>Dieses Modell soll dieses Teil nicht haben</translation>
+    </message>
+    <message id="kiv-skip-cancel">
+        <source>Go on testing</source>
+        <translation>Weiter prüfen</translation>
+    </message>
+    <message id="kiv-timeout-title">
+        <source>Time is up</source>
+        <translation>Die Zeit ist um</translation>
+    </message>
+    <message id="kiv-timeout-text">
+        <source>%1 has no verdict yet.</source>
+        <extracomment>Name of a test</extracomment>
+        <translation>%1 hat noch kein Urteil.</translation>
+    </message>
+    <message id="kiv-timeout-wait">
+        <source>Give it more time</source>
+        <translation>Mehr Zeit geben</translation>
+    </message>
+    <message id="kiv-verdict-skip">
+        <source>Skip</source>
+        <translation>Auslassen</translation>
     </message>
 </context>
 </TS>

@@ -893,8 +893,9 @@
         <translation>Korttipaikassa ei ole korttia.</translation>
     </message>
     <message id="kiv-page-missing-advice">
-        <source>If the phone is meant to be without it, choose Not applicable.</source>
-        <translation>Jos puhelimessa ei kuulukaan olla tätä, valitse Ei koske.</translation>
+        <source>If this model is not meant to have it, choose Skip and say so.</source>
+        <oldsource>If the phone is meant to be without it, choose Not applicable.</oldsource>
+        <translation>Jos tässä mallissa ei kuulu olla tätä osaa, valitse Ohita ja kerro se.</translation>
     </message>
     <message id="kiv-sd-card-mount-failed">
         <source>A card could not be mounted: it may be damaged or have no file system.</source>
@@ -1110,9 +1111,10 @@
         <translation>Lue ilmoitus uudelleen</translation>
     </message>
     <message id="kiv-summary-overruled">
-        <source>Overruled by the operator; measured: %1</source>
-        <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows</extracomment>
-        <translation>Testaaja kumosi mittauksen tuloksen: %1</translation>
+        <source>Overruled by the operator: %2. Measured: %1</source>
+        <oldsource>Overruled by the operator; measured: %1</oldsource>
+        <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
+        <translation>Testaaja päätti toisin: %2. Mitattu: %1</translation>
     </message>
     <message id="kiv-summary-attempts">
         <source>Attempts: %1</source>
@@ -1339,6 +1341,244 @@
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>Radiota ei voitu kytkeä päälle: ääniohjaus ei vastaa tai ei tarjoa sitä.</translation>
+    </message>
+    <message id="kiv-summary-code">
+        <source>Code for the station</source>
+        <translation>Koodi asemalle</translation>
+    </message>
+    <message id="kiv-code-copy">
+        <source>Copy the text</source>
+        <translation>Kopioi teksti</translation>
+    </message>
+    <message id="kiv-code-close">
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+    <message id="kiv-plot-range">
+        <source>%1 to %2</source>
+        <extracomment>The least and the greatest reading so far</extracomment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message id="kiv-mode-engineer">
+        <source>Engineer&apos;s view</source>
+        <translation>Kehittäjän näkymä</translation>
+    </message>
+    <message id="kiv-engineer-raw">
+        <source>Raw values</source>
+        <translation>Raaka-arvot</translation>
+    </message>
+    <message id="kiv-engineer-settings">
+        <source>Settings that were found</source>
+        <translation>Löydetyt asetukset</translation>
+    </message>
+    <message id="kiv-engineer-probe">
+        <source>Look what the phone has</source>
+        <translation>Katso, mitä puhelimessa on</translation>
+    </message>
+    <message id="kiv-engineer-tests">
+        <source>Tests</source>
+        <translation>Testit</translation>
+    </message>
+    <message id="kiv-engineer-processes">
+        <source>Processes</source>
+        <translation>Prosessit</translation>
+    </message>
+    <message id="kiv-mode-engineer-detail">
+        <source>Raw values, the settings that were found, sound streams and processes</source>
+        <translation>Raaka-arvot, löydetyt asetukset, äänivirrat ja prosessit</translation>
+    </message>
+    <message id="kiv-run-in-stuck">
+        <source>The test did not begin in time.</source>
+        <translation>Testi ei alkanut ajoissa.</translation>
+    </message>
+    <message id="kiv-run-in-exercised">
+        <source>It ran without trouble.</source>
+        <translation>Se kävi häiriöttä.</translation>
+    </message>
+    <message id="kiv-run-in-timeout">
+        <source>It came to no result in time.</source>
+        <translation>Se ei tuottanut tulosta ajoissa.</translation>
+    </message>
+    <message id="kiv-run-in-end-time">
+        <source>The time is up.</source>
+        <translation>Aika on lopussa.</translation>
+    </message>
+    <message id="kiv-run-in-end-failure">
+        <source>It stopped at the first failure.</source>
+        <translation>Pysäytetty ensimmäiseen vikaan.</translation>
+    </message>
+    <message id="kiv-run-in-end-temperature">
+        <source>The battery reached %1.</source>
+        <extracomment>A temperature</extracomment>
+        <translation>Akku lämpeni arvoon %1.</translation>
+    </message>
+    <message id="kiv-run-in-end-restart">
+        <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
+        <extracomment>Two times at which the phone was started</extracomment>
+        <translation>Alussa puhelimen käynnistysaika oli %1 ja lopussa %2: se käynnistyi uudelleen tai sen kelloa siirrettiin.</translation>
+    </message>
+    <message id="kiv-run-in-end-operator">
+        <source>The operator ended it.</source>
+        <translation>Testaaja lopetti sen.</translation>
+    </message>
+    <message id="kiv-run-in-progress">
+        <source>Loop %1, test %2 of %3</source>
+        <extracomment>The run-in: number of the loop, place of the test in it, number of tests</extracomment>
+        <translation>Kierros %1, testi %2/%3</translation>
+    </message>
+    <message id="kiv-test-clock">
+        <source>Time left: %1</source>
+        <extracomment>Time until the operator is asked how to go on</extracomment>
+        <translation>Jäljellä %1</translation>
+    </message>
+    <message id="kiv-run-in-intro">
+        <source>Hours: %1. Meanwhile the phone repeats these tests and needs nobody:</source>
+        <oldsource>%2 tests run over and over for %1 hours. The phone needs nobody meanwhile.</oldsource>
+        <extracomment>A number of hours</extracomment>
+        <translation>Tunteja: %1. Sen ajan puhelin toistaa näitä testejä itsekseen:</translation>
+    </message>
+    <message id="kiv-run-in-empty">
+        <source>No test of the run-in can run on this phone.</source>
+        <translation>Mitään sisäänajon testiä ei voi ajaa tällä puhelimella.</translation>
+    </message>
+    <message id="kiv-run-in-attended">
+        <source>These need an operator and stay not tested: %1</source>
+        <extracomment>Names of tests</extracomment>
+        <translation>Nämä vaativat testaajan ja jäävät testaamatta: %1</translation>
+    </message>
+    <message id="kiv-run-in-stop-on-failure">
+        <source>Stop at the first failure</source>
+        <translation>Pysähdy ensimmäiseen vikaan</translation>
+    </message>
+    <message id="kiv-run-in-go-on">
+        <source>Go on after a failure</source>
+        <translation>Jatka vian jälkeen</translation>
+    </message>
+    <message id="kiv-run-in-limit">
+        <source>Stop when the battery reaches %1</source>
+        <extracomment>A temperature</extracomment>
+        <translation>Pysähdy, kun akku saavuttaa arvon %1</translation>
+    </message>
+    <message id="kiv-run-in-no-limit">
+        <source>Do not stop for the battery&apos;s temperature</source>
+        <translation>Älä pysähdy akun lämpötilan vuoksi</translation>
+    </message>
+    <message id="kiv-run-in-machine-start">
+        <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
+        <extracomment>A date and time</extracomment>
+        <translation>Tämä puhelin käynnistettiin %1. Jos sisäänajo päättyi ilman tulosta, syy on sen jälkeinen käynnistys.</translation>
+    </message>
+    <message id="kiv-run-in-total">
+        <source>Loops: %1, time: %2</source>
+        <extracomment>How far the run-in came: loops and time</extracomment>
+        <translation>Kierroksia: %1, aika: %2</translation>
+    </message>
+    <message id="kiv-run-in-failure">
+        <source>%1, loop %2</source>
+        <extracomment>A test that failed, and the number of the loop</extracomment>
+        <translation>%1, kierros %2</translation>
+    </message>
+    <message id="kiv-run-in-stop">
+        <source>End the run-in</source>
+        <translation>Lopeta sisäänajo</translation>
+    </message>
+    <message id="kiv-duration-seconds">
+        <source>%1 s</source>
+        <extracomment>A duration</extracomment>
+        <translation>%1 s</translation>
+    </message>
+    <message id="kiv-duration-minutes">
+        <source>%1 min %2 s</source>
+        <extracomment>A duration: minutes and seconds</extracomment>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message id="kiv-summary-absent">
+        <source>Not on this phone: %1</source>
+        <extracomment>The features that the phone&apos;s configuration and a look at its hardware rule out</extracomment>
+        <translation>Ei tässä puhelimessa: %1</translation>
+    </message>
+    <message id="kiv-summary-timed-out">
+        <source>The time had run out</source>
+        <translation>Aika oli loppunut</translation>
+    </message>
+    <message id="kiv-summary-totals">
+        <source>Attempts: %1, time: %2</source>
+        <extracomment>Totals of a sequence: how many attempts, how long</extracomment>
+        <translation>Yrityksiä: %1, aika: %2</translation>
+    </message>
+    <message id="kiv-overrule-title">
+        <source>Why against the measurement?</source>
+        <translation>Miksi mittausta vastaan?</translation>
+    </message>
+    <message id="kiv-overrule-text">
+        <source>Measured: %1. The summary will show that you decided otherwise.</source>
+        <extracomment>The verdict that the phone has measured</extracomment>
+        <translation>Mitattu: %1. Yhteenveto näyttää, että päätit toisin.</translation>
+    </message>
+    <message id="kiv-overrule-equipment">
+        <source>A tool or an accessory was at fault</source>
+        <translation>Väline tai lisälaite oli viallinen</translation>
+    </message>
+    <message id="kiv-overrule-limits">
+        <source>The limits do not suit this model</source>
+        <translation>Rajat eivät sovi tähän malliin</translation>
+    </message>
+    <message id="kiv-overrule-perceived">
+        <source>I saw, heard or felt it otherwise</source>
+        <translation>Näin, kuulin tai tunsin toisin</translation>
+    </message>
+    <message id="kiv-overrule-supervisor">
+        <source>A supervisor decided so</source>
+        <translation>Esimies päätti niin</translation>
+    </message>
+    <message id="kiv-overrule-cancel">
+        <source>Keep the measured verdict</source>
+        <translation>Pidä mitattu tulos</translation>
+    </message>
+    <message id="kiv-skip-title">
+        <source>Why is this test skipped?</source>
+        <translation>Miksi tämä testi ohitetaan?</translation>
+    </message>
+    <message id="kiv-skip-text">
+        <source>It stays not tested unless the phone is not meant to have this part.</source>
+        <translation>Se jää testaamatta, ellei puhelimesta kuulu puuttua tämä osa.</translation>
+    </message>
+    <message id="kiv-skip-equipment">
+        <source>An accessory or a tool is missing</source>
+        <translation>Lisälaite tai väline puuttuu</translation>
+    </message>
+    <message id="kiv-skip-repair">
+        <source>The phone has to be repaired first</source>
+        <translation>Puhelin on ensin korjattava</translation>
+    </message>
+    <message id="kiv-skip-later">
+        <source>It is tested elsewhere or later</source>
+        <translation>Se testataan muualla tai myöhemmin</translation>
+    </message>
+    <message id="kiv-skip-not-fitted">
+        <source>This model is not meant to have this part</source>
+        <translation>Tässä mallissa ei kuulu olla tätä osaa</translation>
+    </message>
+    <message id="kiv-skip-cancel">
+        <source>Go on testing</source>
+        <translation>Jatka testausta</translation>
+    </message>
+    <message id="kiv-timeout-title">
+        <source>Time is up</source>
+        <translation>Aika on lopussa</translation>
+    </message>
+    <message id="kiv-timeout-text">
+        <source>%1 has no verdict yet.</source>
+        <extracomment>Name of a test</extracomment>
+        <translation>%1: ei vielä tulosta.</translation>
+    </message>
+    <message id="kiv-timeout-wait">
+        <source>Give it more time</source>
+        <translation>Anna lisää aikaa</translation>
+    </message>
+    <message id="kiv-verdict-skip">
+        <source>Skip</source>
+        <translation>Ohita</translation>
     </message>
 </context>
 </TS>

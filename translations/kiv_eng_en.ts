@@ -391,8 +391,9 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-summary-overruled">
-        <source>Overruled by the operator; measured: %1</source>
-        <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows</extracomment>
+        <source>Overruled by the operator: %2. Measured: %1</source>
+        <oldsource>Overruled by the operator; measured: %1</oldsource>
+        <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-summary-attempts">
@@ -434,7 +435,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-page-missing-advice">
-        <source>If the phone is meant to be without it, choose Not applicable.</source>
+        <source>If this model is not meant to have it, choose Skip and say so.</source>
+        <oldsource>If the phone is meant to be without it, choose Not applicable.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-page-guided">
@@ -1353,6 +1355,244 @@
     </message>
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-summary-code">
+        <source>Code for the station</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-code-copy">
+        <source>Copy the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-code-close">
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-plot-range">
+        <source>%1 to %2</source>
+        <extracomment>The least and the greatest reading so far</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mode-engineer">
+        <source>Engineer&apos;s view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-engineer-raw">
+        <source>Raw values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-engineer-settings">
+        <source>Settings that were found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-engineer-probe">
+        <source>Look what the phone has</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-engineer-tests">
+        <source>Tests</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-engineer-processes">
+        <source>Processes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-mode-engineer-detail">
+        <source>Raw values, the settings that were found, sound streams and processes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-stuck">
+        <source>The test did not begin in time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-exercised">
+        <source>It ran without trouble.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-timeout">
+        <source>It came to no result in time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-end-time">
+        <source>The time is up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-end-failure">
+        <source>It stopped at the first failure.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-end-temperature">
+        <source>The battery reached %1.</source>
+        <extracomment>A temperature</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-end-restart">
+        <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
+        <extracomment>Two times at which the phone was started</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-end-operator">
+        <source>The operator ended it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-progress">
+        <source>Loop %1, test %2 of %3</source>
+        <extracomment>The run-in: number of the loop, place of the test in it, number of tests</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-test-clock">
+        <source>Time left: %1</source>
+        <extracomment>Time until the operator is asked how to go on</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-intro">
+        <source>Hours: %1. Meanwhile the phone repeats these tests and needs nobody:</source>
+        <oldsource>%2 tests run over and over for %1 hours. The phone needs nobody meanwhile.</oldsource>
+        <extracomment>A number of hours</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-empty">
+        <source>No test of the run-in can run on this phone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-attended">
+        <source>These need an operator and stay not tested: %1</source>
+        <extracomment>Names of tests</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-stop-on-failure">
+        <source>Stop at the first failure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-go-on">
+        <source>Go on after a failure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-limit">
+        <source>Stop when the battery reaches %1</source>
+        <extracomment>A temperature</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-no-limit">
+        <source>Do not stop for the battery&apos;s temperature</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-machine-start">
+        <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
+        <extracomment>A date and time</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-total">
+        <source>Loops: %1, time: %2</source>
+        <extracomment>How far the run-in came: loops and time</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-failure">
+        <source>%1, loop %2</source>
+        <extracomment>A test that failed, and the number of the loop</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-stop">
+        <source>End the run-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-duration-seconds">
+        <source>%1 s</source>
+        <extracomment>A duration</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-duration-minutes">
+        <source>%1 min %2 s</source>
+        <extracomment>A duration: minutes and seconds</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-summary-absent">
+        <source>Not on this phone: %1</source>
+        <extracomment>The features that the phone&apos;s configuration and a look at its hardware rule out</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-summary-timed-out">
+        <source>The time had run out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-summary-totals">
+        <source>Attempts: %1, time: %2</source>
+        <extracomment>Totals of a sequence: how many attempts, how long</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-overrule-title">
+        <source>Why against the measurement?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-overrule-text">
+        <source>Measured: %1. The summary will show that you decided otherwise.</source>
+        <extracomment>The verdict that the phone has measured</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-overrule-equipment">
+        <source>A tool or an accessory was at fault</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-overrule-limits">
+        <source>The limits do not suit this model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-overrule-perceived">
+        <source>I saw, heard or felt it otherwise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-overrule-supervisor">
+        <source>A supervisor decided so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-overrule-cancel">
+        <source>Keep the measured verdict</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-skip-title">
+        <source>Why is this test skipped?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-skip-text">
+        <source>It stays not tested unless the phone is not meant to have this part.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-skip-equipment">
+        <source>An accessory or a tool is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-skip-repair">
+        <source>The phone has to be repaired first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-skip-later">
+        <source>It is tested elsewhere or later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-skip-not-fitted">
+        <source>This model is not meant to have this part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-skip-cancel">
+        <source>Go on testing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-timeout-title">
+        <source>Time is up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-timeout-text">
+        <source>%1 has no verdict yet.</source>
+        <extracomment>Name of a test</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-timeout-wait">
+        <source>Give it more time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-verdict-skip">
+        <source>Skip</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -7,6 +7,7 @@ Item {
 
     property string title
     property string subtitle
+    property color subtitleColor: Theme.muted
     property bool backVisible: true
     //% "Back"
     property string backText: qsTrId("kiv-back")
@@ -45,7 +46,7 @@ Item {
             width: parent.width
             text: header.subtitle
             visible: text !== ""
-            color: Theme.muted
+            color: header.subtitleColor
             font.pixelSize: Theme.small
         }
     }

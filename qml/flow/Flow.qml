@@ -86,6 +86,13 @@ QtObject {
         keep(name, attempt, results[name] || copyOf(attempt, { code: FactoryUtils.Untest, decided: "", reason: "" }));
     }
 
+    /*! Takes a verdict over as it stands, with its own numbers of attempts and seconds. */
+    function adopt(name, verdict) {
+        var adopted = {};
+        adopted[name] = copyOf(verdict, { history: [] });
+        results = copyOf(results, adopted);
+    }
+
     function keep(name, attempt, verdict) {
         var earlier = results[name];
         var kept = {};

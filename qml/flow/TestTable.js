@@ -7,11 +7,12 @@
 //   kind:    "measured" decides by itself, "guided" is judged by the operator
 //   seconds: how long a practised operator takes
 //   timeout: seconds after which the operator is asked how to go on
+//   alone:   runs without an operator, so that the run-in can repeat it
 //   runIn:   place in the run-in sequence where that differs from this order
 var rows = [
     //% "Touch panel self-test"
     { name: "TouchSelfTest", title: QT_TRID_NOOP("kiv-test-touch-self"), needs: ["TouchAuto"], page: "TouchSelfTest.qml",
-      glyph: "touch", kind: "measured", seconds: 10, timeout: 60 },
+      glyph: "touch", kind: "measured", seconds: 10, timeout: 60, alone: true },
     //% "Touch panel"
     { name: "VerificationTouch", title: QT_TRID_NOOP("kiv-test-touch"), needs: ["Touch"], page: "VerificationTouch.qml",
       glyph: "touch", kind: "measured", seconds: 30, timeout: 120 },
@@ -20,10 +21,10 @@ var rows = [
       glyph: "multitouch", kind: "measured", seconds: 15, timeout: 60 },
     //% "Display"
     { name: "VerificationLcd", title: QT_TRID_NOOP("kiv-test-lcd"), needs: ["LCD"], page: "",
-      glyph: "display", kind: "guided", seconds: 25, timeout: 100, runIn: 3 },
+      glyph: "display", kind: "guided", seconds: 25, timeout: 100, alone: true, runIn: 3 },
     //% "Display backlight"
     { name: "VerificationLcdBacklight", title: QT_TRID_NOOP("kiv-test-lcd-backlight"), needs: ["Backlight"], page: "",
-      glyph: "light", kind: "guided", seconds: 15, timeout: 60, runIn: 1 },
+      glyph: "light", kind: "guided", seconds: 15, timeout: 60, alone: true, runIn: 1 },
     //% "Light sensor"
     { name: "VerificationLightSensor", title: QT_TRID_NOOP("kiv-test-light"), needs: ["LightSensor"], page: "VerificationLightSensor.qml",
       glyph: "light", kind: "measured", seconds: 15, timeout: 60 },
@@ -50,13 +51,13 @@ var rows = [
       glyph: "microphone", kind: "guided", seconds: 25, timeout: 100 },
     //% "Loudspeaker music"
     { name: "AudioPlayMusicLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-music"), needs: ["Loudspeaker"], page: "AudioPlayMusicLoudspeaker.qml",
-      glyph: "speaker", kind: "guided", seconds: 15, timeout: 60, runIn: 4 },
+      glyph: "speaker", kind: "guided", seconds: 15, timeout: 60, alone: true, runIn: 4 },
     //% "Loudspeaker left and right"
     { name: "AudioPlayStereoLoudspeaker", title: QT_TRID_NOOP("kiv-test-speaker-stereo"), needs: ["Loudspeaker"], page: "AudioPlayStereoLoudspeaker.qml",
-      glyph: "speaker", kind: "guided", seconds: 20, timeout: 80 },
+      glyph: "speaker", kind: "guided", seconds: 20, timeout: 80, alone: true },
     //% "Earpiece"
     { name: "AudioPlayMusicReceiver", title: QT_TRID_NOOP("kiv-test-receiver"), needs: ["Receiver"], page: "AudioPlayMusicReceiver.qml",
-      glyph: "receiver", kind: "guided", seconds: 15, timeout: 60 },
+      glyph: "receiver", kind: "guided", seconds: 15, timeout: 60, alone: true },
     //% "Headset buttons"
     { name: "VerificationHeadsetButtons", title: QT_TRID_NOOP("kiv-test-headset-buttons"), needs: ["Headset"], page: "VerificationHeadsetButtons.qml",
       glyph: "headset", kind: "measured", seconds: 20, timeout: 80 },
@@ -68,16 +69,16 @@ var rows = [
       glyph: "headset", kind: "guided", seconds: 20, timeout: 80 },
     //% "Front camera"
     { name: "VerificationFrontCamera", title: QT_TRID_NOOP("kiv-test-front-camera"), needs: ["FrontCamera"], page: "",
-      glyph: "camera", kind: "guided", seconds: 20, timeout: 80 },
+      glyph: "camera", kind: "guided", seconds: 20, timeout: 80, alone: true },
     //% "Back camera"
     { name: "VerificationBackCamera", title: QT_TRID_NOOP("kiv-test-back-camera"), needs: ["BackCamera"], page: "",
-      glyph: "camera", kind: "guided", seconds: 20, timeout: 80, runIn: 2 },
+      glyph: "camera", kind: "guided", seconds: 20, timeout: 80, alone: true, runIn: 2 },
     //% "Wi-Fi"
     { name: "VerificationWifi", title: QT_TRID_NOOP("kiv-test-wifi"), needs: ["Wifi"], page: "",
-      glyph: "radio", kind: "measured", seconds: 20, timeout: 80 },
+      glyph: "radio", kind: "measured", seconds: 20, timeout: 80, alone: true },
     //% "Bluetooth"
     { name: "VerificationBluetooth", title: QT_TRID_NOOP("kiv-test-bluetooth"), needs: ["Bluetooth"], page: "",
-      glyph: "bluetooth", kind: "measured", seconds: 20, timeout: 80 },
+      glyph: "bluetooth", kind: "measured", seconds: 20, timeout: 80, alone: true },
     //% "Smart cover"
     { name: "VerificationZel", title: QT_TRID_NOOP("kiv-test-zel"), needs: ["ZEL"], page: "",
       glyph: "cover", kind: "measured", seconds: 30, timeout: 120 },
@@ -89,7 +90,7 @@ var rows = [
       glyph: "fm", kind: "guided", seconds: 30, timeout: 120 },
     //% "Battery"
     { name: "VerificationBattery", title: QT_TRID_NOOP("kiv-test-battery"), needs: ["Battery"], page: "VerificationBattery.qml",
-      glyph: "battery", kind: "measured", seconds: 10, timeout: 60 },
+      glyph: "battery", kind: "measured", seconds: 10, timeout: 60, alone: true },
     //% "USB charging"
     { name: "VerificationUsbCharging", title: QT_TRID_NOOP("kiv-test-usb-charging"), needs: ["UsbCharging"], page: "VerificationUsbCharging.qml",
       glyph: "charging", kind: "measured", seconds: 30, timeout: 120 },
@@ -101,13 +102,13 @@ var rows = [
       glyph: "light", kind: "guided", seconds: 15, timeout: 60 },
     //% "Vibrator"
     { name: "VerificationVibrator", title: QT_TRID_NOOP("kiv-test-vibrator"), needs: ["Vibrator"], page: "VerificationVibrator.qml",
-      glyph: "vibrator", kind: "guided", seconds: 15, timeout: 60 },
+      glyph: "vibrator", kind: "guided", seconds: 15, timeout: 60, alone: true },
     //% "SIM card"
     { name: "VerificationSim", title: QT_TRID_NOOP("kiv-test-sim"), needs: ["SIM"], page: "",
-      glyph: "sim", kind: "measured", seconds: 20, timeout: 80 },
+      glyph: "sim", kind: "measured", seconds: 20, timeout: 80, alone: true },
     //% "Memory card"
     { name: "VerificationSdCard", title: QT_TRID_NOOP("kiv-test-sd-card"), needs: ["SDCard"], page: "VerificationSdCard.qml",
-      glyph: "sdcard", kind: "measured", seconds: 20, timeout: 80 },
+      glyph: "sdcard", kind: "measured", seconds: 20, timeout: 80, alone: true },
     //% "Keys"
     { name: "VerificationKey", title: QT_TRID_NOOP("kiv-test-key"), needs: ["Key"], page: "VerificationKey.qml",
       glyph: "key", kind: "measured", seconds: 15, timeout: 60 },
@@ -116,7 +117,7 @@ var rows = [
       glyph: "usb", kind: "measured", seconds: 30, timeout: 120 },
     //% "Video playback"
     { name: "VerificationVideoPlayback", title: QT_TRID_NOOP("kiv-test-video"), needs: ["VideoPlayback"], page: "",
-      glyph: "video", kind: "guided", seconds: 30, timeout: 120, runIn: 5 },
+      glyph: "video", kind: "guided", seconds: 30, timeout: 120, alone: true, runIn: 5 },
     //% "Battery resistance"
     { name: "VerificationBatteryResistance", title: QT_TRID_NOOP("kiv-test-battery-resistance"), needs: ["Battery"], page: "",
       glyph: "battery", kind: "measured", seconds: 60, timeout: 240 },
@@ -134,10 +135,10 @@ var rows = [
       glyph: "data", kind: "guided", seconds: 60, timeout: 240 },
     //% "Network addresses"
     { name: "MacAddresses", title: QT_TRID_NOOP("kiv-test-mac-addresses"), needs: ["MacAddresses"], page: "MacAddresses.qml",
-      glyph: "address", kind: "measured", seconds: 5, timeout: 60 },
+      glyph: "address", kind: "measured", seconds: 5, timeout: 60, alone: true },
     //% "Calibration record"
     { name: "Calibration", title: QT_TRID_NOOP("kiv-test-calibration"), needs: [], page: "Calibration.qml",
-      glyph: "calibration", kind: "measured", seconds: 5, timeout: 60 },
+      glyph: "calibration", kind: "measured", seconds: 5, timeout: 60, alone: true },
     //% "Sensor calibration"
     { name: "SensorCalibration", title: QT_TRID_NOOP("kiv-test-sensor-calibration"), needs: [], page: "SensorCalibration.qml",
       glyph: "calibration", kind: "guided", seconds: 60, timeout: 240 },

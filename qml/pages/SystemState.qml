@@ -25,10 +25,6 @@ TestPage {
         id: uptime
         onLoadAverageChanged: page.follow()
     }
-    Processes {
-        id: processes
-        limit: 8
-    }
 
     Measurement {
         id: start
@@ -54,47 +50,8 @@ TestPage {
         decimals: 2
     }
 
-    Card {
+    ProcessList {
         width: parent.width
-        visible: processes.count > 0
-        padding: Theme.gap
-        spacing: 0
-
-        Repeater {
-            model: processes
-
-            Item {
-                width: parent.width
-                height: Math.max(process.height, share.height) + Theme.unit
-                Accessible.role: Accessible.StaticText
-                Accessible.name: process.text + ", " + share.text
-
-                Words {
-                    id: process
-                    anchors.left: parent.left
-                    anchors.leftMargin: Theme.gap
-                    anchors.right: share.left
-                    anchors.rightMargin: Theme.gap
-                    anchors.verticalCenter: parent.verticalCenter
-                    //: A process: its name and its number
-                    //% "%1 (%2)"
-                    text: qsTrId("kiv-system-process").arg(model.name).arg(model.pid)
-                    font.pixelSize: Theme.small
-                    Accessible.ignored: true
-                }
-                Words {
-                    id: share
-                    anchors.right: parent.right
-                    anchors.rightMargin: Theme.gap
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: isFinite(model.percentCpu)
-                          ? Number(model.percentCpu).toLocaleString(Qt.locale(), "f", 1) + "\u00a0%"
-                          : qsTrId("kiv-reading-missing")
-                    font.weight: Font.DemiBold
-                    Accessible.ignored: true
-                }
-            }
-        }
     }
 
     Words {
@@ -104,29 +61,8 @@ TestPage {
         text: qsTrId("kiv-system-streams")
         font.weight: Font.DemiBold
     }
-    Card {
+    StreamList {
+        id: streams
         width: parent.width
-        visible: streams.count > 0
-        padding: Theme.gap
-        spacing: Theme.gap
-
-        Repeater {
-            model: PulseAudio {
-                id: streams
-            }
-
-            Words {
-                width: parent.width
-                // The tool prints quotes around both names.
-                text: [model.applicationName, model.mediaName, model.volumeInfo,
-                       //% "paused"
-                       model.corked ? qsTrId("kiv-system-stream-paused") : "",
-                       //% "muted"
-                       model.muted ? qsTrId("kiv-system-stream-muted") : ""]
-                      .filter(function(part) { return part !== undefined && part !== ""; })
-                      .map(function(part) { return part.replace(/^"|"$/g, ""); }).join(", ")
-                font.pixelSize: Theme.small
-            }
-        }
     }
 }

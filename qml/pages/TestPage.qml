@@ -34,6 +34,8 @@ Item {
     property bool ownsKeys: false
     /*! Nobody watches: the page starts by itself what it tests, and asks nothing. */
     readonly property bool unattended: frame !== null && frame.unattended === true
+    /*! Where nobody watches a guided page: whether what is tested has really been at work. */
+    property bool exercised: false
     /*! The page wants the whole screen. */
     property bool fullScreen: false
     /*! Drawn over the whole screen while fullScreen. */

@@ -136,12 +136,18 @@ Item {
                 fill: Theme.accent
                 ink: Theme.accentInk
                 visible: screen.untested.length > 0
-                text: summaryButton.useful
+                         || (screen.flow !== null && screen.flow.mode === TestTable.RunInTests)
+                text: summaryButton.useful && screen.flow.mode !== TestTable.RunInTests
                       ? //% "Go on, %1 left"
                         qsTrId("kiv-list-continue").arg(screen.untested.length)
                       : //% "Start"
                         qsTrId("kiv-list-start")
-                onClicked: screen.shell.startRun(screen.untested)
+                onClicked: {
+                    if (screen.flow.mode === TestTable.RunInTests)
+                        screen.shell.startRunIn();
+                    else
+                        screen.shell.startRun(screen.untested);
+                }
             }
         }
     }

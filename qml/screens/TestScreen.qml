@@ -22,6 +22,15 @@ Item {
     readonly property string decided: page ? page.verdict : ""
     readonly property bool passUnlocked: decided !== "" || (page !== null && !absent && page.evidence)
     readonly property alias sheet: sheet
+    readonly property string progressText: !flow || flow.run.length < 2 ? ""
+        //: Place in the sequence and the time it still takes
+        //% "%1 of %2, about %3 min left"
+        : qsTrId("kiv-test-progress").arg(flow.position + 1).arg(flow.run.length)
+                                     .arg(Math.max(1, Math.round(flow.secondsLeft / 60)))
+    readonly property string clockText: decided !== "" || secondsLeft <= 0 ? ""
+        //: Time until the operator is asked how to go on
+        //% "Time left: %1"
+        : qsTrId("kiv-test-clock").arg(Math.floor(secondsLeft / 60) + ":" + ("0" + secondsLeft % 60).slice(-2))
     /*! Seconds until the operator is asked how to go on. */
     property int secondsLeft: 0
     property bool timedOut: false
@@ -216,48 +225,20 @@ Item {
         //% "Leave this test"
         backText: qsTrId("kiv-test-leave")
         title: screen.row ? qsTrId(screen.row.title) : ""
-        subtitle: !screen.flow || screen.flow.run.length < 2 ? ""
-                  //: Place in the sequence and the time it still takes
-                  //% "%1 of %2, about %3 min left"
-                  : qsTrId("kiv-test-progress").arg(screen.flow.position + 1).arg(screen.flow.run.length)
-                                               .arg(Math.max(1, Math.round(screen.flow.secondsLeft / 60)))
+        subtitle: [screen.progressText, screen.clockText].filter(function(text) { return text !== ""; }).join(" \u00b7 ")
+        subtitleColor: screen.clockText !== "" && screen.secondsLeft <= 15 ? Theme.warn : Theme.muted
         onBack: screen.shell.leaveTest()
-        trailing: [
-            Words {
-                id: clock
-                objectName: "clock"
-                readonly property bool low: screen.secondsLeft <= 15
-                anchors.verticalCenter: parent.verticalCenter
-                width: Math.ceil(clockWidth.advanceWidth) + 1
-                visible: screen.decided === ""
-                text: Math.floor(screen.secondsLeft / 60) + ":" + ("0" + screen.secondsLeft % 60).slice(-2)
-                horizontalAlignment: Text.AlignRight
-                color: low ? Theme.warn : Theme.muted
-                font.weight: low ? Font.Bold : Font.Normal
-                //: Time until the operator is asked how to go on
-                //% "Time left: %1"
-                Accessible.name: qsTrId("kiv-test-clock").arg(text)
-
-                TextMetrics {
-                    id: clockWidth
-                    font.family: clock.font.family
-                    font.pixelSize: clock.font.pixelSize
-                    font.weight: Font.Bold
-                    text: "00:00"
-                }
-            },
-            PushButton {
-                width: Theme.target
-                height: Theme.target
-                outlined: false
-                fill: "transparent"
-                objectName: "retry"
-                glyph: "retry"
-                //% "Try again"
-                Accessible.name: qsTrId("kiv-test-retry")
-                onClicked: screen.retry()
-            }
-        ]
+        trailing: PushButton {
+            width: Theme.target
+            height: Theme.target
+            outlined: false
+            fill: "transparent"
+            objectName: "retry"
+            glyph: "retry"
+            //% "Try again"
+            Accessible.name: qsTrId("kiv-test-retry")
+            onClicked: screen.retry()
+        }
     }
     Rectangle {
         id: progress
@@ -265,7 +246,7 @@ Item {
         width: parent.width
         height: Math.round(Theme.unit / 2)
         color: Theme.line
-        visible: header.visible && header.subtitle !== ""
+        visible: header.visible && screen.progressText !== ""
 
         Rectangle {
             width: parent.width * (screen.flow ? screen.flow.position / Math.max(1, screen.flow.run.length) : 0)

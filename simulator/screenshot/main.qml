@@ -9,7 +9,7 @@ import "flow/TestTable.js" as TestTable
 Shell {
     id: shell
 
-    readonly property var screens: ["", "home", "disclaimer", "list", "summary", "settings"]
+    readonly property var screens: ["", "home", "disclaimer", "list", "summary", "settings", "runin", "engineer"]
     property int frames: 0
 
     startPage: "@PAGE@"
