@@ -1357,6 +1357,20 @@
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>Das Radio ließ sich nicht einschalten: Die Tonsteuerung antwortet nicht oder bietet es nicht an.</translation>
     </message>
+    <message id="kiv-challenge-mistake">
+        <source>Shown: %1, answered: %2</source>
+        <extracomment>A wrong answer: what was shown and what the operator said</extracomment>
+        <translation>Gezeigt: %1, geantwortet: %2</translation>
+    </message>
+    <message id="kiv-challenge-second">
+        <source>That was not right. You have one more try, with something new.</source>
+        <translation>Das war nicht richtig. Ein Versuch bleibt, mit etwas Neuem.</translation>
+    </message>
+    <message id="kiv-challenge-round">
+        <source>Answer %1 of %2</source>
+        <extracomment>How far the operator is with a question that is asked several times</extracomment>
+        <translation>Antwort %1 von %2</translation>
+    </message>
     <message id="kiv-summary-code">
         <source>Code for the station</source>
         <translation>Code für die Station</translation>

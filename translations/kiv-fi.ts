@@ -1342,6 +1342,20 @@
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>Radiota ei voitu kytkeä päälle: ääniohjaus ei vastaa tai ei tarjoa sitä.</translation>
     </message>
+    <message id="kiv-challenge-mistake">
+        <source>Shown: %1, answered: %2</source>
+        <extracomment>A wrong answer: what was shown and what the operator said</extracomment>
+        <translation>Näytetty: %1, vastattu: %2</translation>
+    </message>
+    <message id="kiv-challenge-second">
+        <source>That was not right. You have one more try, with something new.</source>
+        <translation>Se ei ollut oikein. Jäljellä on yksi yritys, uudella arvolla.</translation>
+    </message>
+    <message id="kiv-challenge-round">
+        <source>Answer %1 of %2</source>
+        <extracomment>How far the operator is with a question that is asked several times</extracomment>
+        <translation>Vastaus %1/%2</translation>
+    </message>
     <message id="kiv-summary-code">
         <source>Code for the station</source>
         <translation>Koodi asemalle</translation>

@@ -1357,6 +1357,20 @@
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-challenge-mistake">
+        <source>Shown: %1, answered: %2</source>
+        <extracomment>A wrong answer: what was shown and what the operator said</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-challenge-second">
+        <source>That was not right. You have one more try, with something new.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-challenge-round">
+        <source>Answer %1 of %2</source>
+        <extracomment>How far the operator is with a question that is asked several times</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
     <message id="kiv-summary-code">
         <source>Code for the station</source>
         <translation type="unfinished"></translation>
