@@ -8,6 +8,7 @@ import "VerdictStyle.js" as Style
  */
 Rectangle {
     id: flash
+    objectName: "flash"
 
     property string code: "00"
     readonly property var look: Style.looks[code]

@@ -71,6 +71,19 @@ TestCase {
         mouseRelease(shell, middle.x, middle.y);
     }
 
+    /*! Waits until a verdict no longer covers the screen. */
+    function afterFlash() {
+        tryVerify(function() { return !find("flash").visible; });
+    }
+
+    /*! Answers the question that is on the screen. */
+    function answer(id) {
+        tryVerify(function() { return find("sheet").isOpen; });
+        var button = find("choice-" + id);
+        waitForRendering(button);
+        mouseClick(button);
+    }
+
     /*! The verdict that the flow keeps for a test. */
     function kept(name) {
         return shell.flow.results[name];

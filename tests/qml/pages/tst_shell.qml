@@ -50,11 +50,15 @@ Driver {
         mouseClick(find("start"));
         compare(screenName(), "TestScreen");
         compare(frame.row.name, "VerificationHallDetect");
-        compare(find("header").subtitle, "1 of 2, about 1 min left");
+        compare(frame.progressText, "1 of 2, about 1 min left");
+        compare(frame.clockText, "Time left: 1:00");
+        compare(find("header").subtitle, "1 of 2, about 1 min left \u00b7 Time left: 1:00");
         tryVerify(function() { return page.isOpen; });
         tap("fail");
         compare(kept("VerificationHallDetect").code, FactoryUtils.Fail);
         compare(frame.row.name, "VerificationBattery");
+        verify(find("flash").visible, "the verdict is seen");
+        compare(find("flash").code, FactoryUtils.Fail);
         tryVerify(function() { return page && page.isOpen; });
         // The page measures a pass and goes on by itself.
         tryVerify(function() { return screenName() === "SummaryScreen"; }, 15000);
@@ -69,7 +73,7 @@ Driver {
                 ["VerificationHallDetect", "VerificationLcd", "VerificationKey", "VerificationBattery"]);
         compare(frame.sorted.map(function(entry) { return shell.flow.entryCode(entry); }), ["02", "00", "03", "01"]);
         compare(frame.remark(frame.sorted[1]), "Not available yet");
-        compare(frame.remark(frame.sorted[2]), "Not on this phone");
+        compare(frame.remark(frame.sorted[2]), "Not on this phone: Key");
         compare([FactoryUtils.Fail, FactoryUtils.Untest, FactoryUtils.NA, FactoryUtils.Pass]
                 .map(function(code) { return shell.flow.count(code); }), [1, 1, 1, 1]);
 
@@ -141,11 +145,21 @@ Driver {
         wait(3500);
         verify(!kept("VerificationBattery"), "a failure waits for a look at it");
         holdPass();
+        verify(!kept("VerificationBattery"), "he has to say why");
+        answer("cancel");
+        verify(!kept("VerificationBattery"));
+        holdPass();
+        answer("limits");
         var verdict = kept("VerificationBattery");
         compare(verdict.code, FactoryUtils.Pass);
         compare(verdict.decided, FactoryUtils.Fail);
         verify(verdict.overruled);
+        compare(verdict.why, "limits");
         verify(verdict.reason.indexOf("Overheated") >= 0);
+        shell.show("SummaryScreen");
+        var entry = { row: TestTable.row("VerificationBattery"), state: "ready" };
+        verify(frame.remark(entry).indexOf("Overruled by the operator: The limits do not suit this model") === 0,
+               frame.remark(entry));
     }
 
     function test_leavingKeepsNoVerdict() {
@@ -183,7 +197,7 @@ Driver {
 
     function test_aPageThatCannotBeLoadedIsSaidAndCanBeFailed() {
         TestTable.rows.push({ name: "Broken", title: "kiv-test-battery", needs: [], page: "Broken.qml", glyph: "battery",
-                              kind: "measured", seconds: 1 });
+                              kind: "measured", seconds: 1, timeout: 60 });
         ignoreWarning(/Broken.qml.*No such file/);
         start("Broken");
         TestTable.rows.pop();

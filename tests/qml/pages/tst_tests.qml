@@ -20,7 +20,7 @@ Driver {
         verify(page.missing.toLowerCase().indexOf(sentence.toLowerCase()) >= 0, page.missing);
         verify(frame.absent);
         verify(!find("pass").enabled);
-        verify(find("na").suggested);
+        verify(find("fail").suggested);
         compare(page.verdict, "");
     }
 
