@@ -106,8 +106,13 @@ Item {
     function nextTest(code) {
         flow.advance();
         if (!single && flow.current)
-            flash.show(code);
+            showVerdict(code);
         showTest();
+    }
+
+    function showVerdict(code) {
+        flash.active = true;
+        flash.item.show(code);
     }
 
     /*! A short sound: "pass", "fail" or "attention". */
@@ -184,7 +189,7 @@ Item {
         if (key === "")
             return;
         event.accepted = true;
-        if (event.isAutoRepeat || busy || flash.visible || (screen.sideKey && screen.sideKey(key)))
+        if (event.isAutoRepeat || busy || flash.showing || (screen.sideKey && screen.sideKey(key)))
             return;
         if (key === "power")
             pressFocused();
@@ -298,12 +303,14 @@ Item {
         focus: true
     }
 
-    VerdictFlash {
+    // These two are made when they are first wanted.
+    Loader {
         id: flash
+        readonly property bool showing: item !== null && item.visible
         anchors.fill: parent
+        active: false
+        source: "controls/VerdictFlash.qml"
     }
-
-    // Made when it is first wanted.
     Loader {
         id: working
         anchors.fill: parent
