@@ -1107,12 +1107,9 @@
         <translation>Laden beginnt wieder</translation>
     </message>
     <message id="kiv-vibrator-good">
-        <source>The operator felt the pulses that were given: %1</source>
-        <translation>Der Prüfer hat alle Stöße gespürt: %1</translation>
-    </message>
-    <message id="kiv-vibrator-bad">
-        <source>Pulses given: %1, felt: %2</source>
-        <translation>Stöße gegeben: %1, gespürt: %2</translation>
+        <source>The operator felt as many pulses as were given.</source>
+        <oldsource>The operator felt the pulses that were given: %1</oldsource>
+        <translation>Der Prüfer hat so viele Stöße gespürt, wie gegeben wurden.</translation>
     </message>
     <message id="kiv-vibrator-instructions">
         <source>Hold the phone in the hand and count the pulses.</source>
@@ -1370,6 +1367,480 @@
         <source>Answer %1 of %2</source>
         <extracomment>How far the operator is with a question that is asked several times</extracomment>
         <translation>Antwort %1 von %2</translation>
+    </message>
+    <message id="kiv-checks-position">
+        <source>Question %1 of %2</source>
+        <extracomment>How far the operator is with a list of questions</extracomment>
+        <translation>Frage %1 von %2</translation>
+    </message>
+    <message id="kiv-checks-yes">
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message id="kiv-checks-no">
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message id="kiv-data-missing">
+        <source>No modem was found, so there is no mobile data.</source>
+        <translation>Es wurde kein Modem gefunden, also gibt es keine mobilen Daten.</translation>
+    </message>
+    <message id="kiv-data-instructions">
+        <source>Switch Wi-Fi off and mobile data on, open a web page that was not open before, and switch Wi-Fi on again.</source>
+        <translation>Schalten Sie WLAN aus und mobile Daten ein, öffnen Sie eine Webseite, die noch nicht geöffnet war, und schalten Sie WLAN wieder ein.</translation>
+    </message>
+    <message id="kiv-data-note">
+        <source>Kiv cannot tell over which radio a page comes. Where the phone has two SIM cards, try each.</source>
+        <translation>Kiv erkennt nicht, über welchen Funk eine Seite kommt. Bei zwei SIM-Karten versuchen Sie es mit jeder.</translation>
+    </message>
+    <message id="kiv-data-good">
+        <source>The operator loaded a web page over mobile data.</source>
+        <translation>Der Prüfer hat über mobile Daten eine Webseite geladen.</translation>
+    </message>
+    <message id="kiv-data-loaded">
+        <source>SIM card %1: did the web page load without Wi-Fi?</source>
+        <translation>SIM-Karte %1: Wurde die Webseite ohne WLAN geladen?</translation>
+    </message>
+    <message id="kiv-data-loaded-bad">
+        <source>SIM card %1: nothing was loaded over mobile data.</source>
+        <translation>SIM-Karte %1: Über mobile Daten wurde nichts geladen.</translation>
+    </message>
+    <message id="kiv-data-broke">
+        <source>SIM card %1: did the connection break off meanwhile?</source>
+        <translation>SIM-Karte %1: Brach die Verbindung dabei ab?</translation>
+    </message>
+    <message id="kiv-data-broke-bad">
+        <source>SIM card %1: the mobile connection broke off.</source>
+        <translation>SIM-Karte %1: Die mobile Verbindung brach ab.</translation>
+    </message>
+    <message id="kiv-voice-heard">
+        <source>SIM card %1: could you hear the other end?</source>
+        <translation>SIM-Karte %1: Konnten Sie die Gegenseite hören?</translation>
+    </message>
+    <message id="kiv-voice-heard-bad">
+        <source>SIM card %1: the other end could not be heard.</source>
+        <translation>SIM-Karte %1: Die Gegenseite war nicht zu hören.</translation>
+    </message>
+    <message id="kiv-voice-clear">
+        <source>SIM card %1: did the call break off, crackle or echo?</source>
+        <translation>SIM-Karte %1: Brach das Gespräch ab, knackte es oder hallte es?</translation>
+    </message>
+    <message id="kiv-voice-clear-bad">
+        <source>SIM card %1: the call broke off, crackled or echoed.</source>
+        <translation>SIM-Karte %1: Das Gespräch brach ab, knackte oder hallte.</translation>
+    </message>
+    <message id="kiv-voice-spoke">
+        <source>SIM card %1: could the other end hear you?</source>
+        <translation>SIM-Karte %1: Konnte die Gegenseite Sie hören?</translation>
+    </message>
+    <message id="kiv-voice-spoke-bad">
+        <source>SIM card %1: the other end heard nothing.</source>
+        <translation>SIM-Karte %1: Die Gegenseite hörte nichts.</translation>
+    </message>
+    <message id="kiv-voice-missing">
+        <source>No modem was found, so no call can be made.</source>
+        <translation>Es wurde kein Modem gefunden, also ist kein Anruf möglich.</translation>
+    </message>
+    <message id="kiv-voice-instructions">
+        <source>Call a second phone or a test line with the phone&apos;s own dialler, speak for a moment, and hang up.</source>
+        <translation>Rufen Sie mit der Telefon-App ein zweites Telefon oder eine Testnummer an, sprechen Sie kurz und legen Sie auf.</translation>
+    </message>
+    <message id="kiv-voice-note">
+        <source>Kiv makes no calls by itself. Where the phone has two SIM cards, call with each.</source>
+        <translation>Kiv ruft selbst niemanden an. Bei zwei SIM-Karten rufen Sie mit jeder an.</translation>
+    </message>
+    <message id="kiv-voice-good">
+        <source>The operator made a call and both ends heard each other.</source>
+        <translation>Der Prüfer hat telefoniert, und beide Seiten haben einander gehört.</translation>
+    </message>
+    <message id="kiv-guided-hint">
+        <source>Pass unlocks when you have answered the questions.</source>
+        <translation>„Bestanden“ ist gesperrt, bis Sie die Fragen beantwortet haben.</translation>
+    </message>
+    <message id="kiv-reboot-missing">
+        <source>The system does not tell when it was started.</source>
+        <translation>Das System sagt nicht, wann es gestartet wurde.</translation>
+    </message>
+    <message id="kiv-reboot-instructions">
+        <source>Restart the phone with its power key or its menu. When it is up again, start Kiv and open this test anew.</source>
+        <translation>Starten Sie das Telefon mit der Ein-/Aus-Taste oder über sein Menü neu. Starten Sie danach Kiv und öffnen Sie diesen Test erneut.</translation>
+    </message>
+    <message id="kiv-reboot-hint">
+        <source>Pass unlocks when the phone was restarted a short while ago and you have answered the questions.</source>
+        <translation>„Bestanden“ ist gesperrt, bis das Telefon vor Kurzem neu gestartet wurde und Sie die Fragen beantwortet haben.</translation>
+    </message>
+    <message id="kiv-reboot-note">
+        <source>A restart ends Kiv, and the verdicts that are not kept elsewhere are gone: do this test first or by itself.</source>
+        <translation>Ein Neustart beendet Kiv, und Ergebnisse, die nirgends sonst festgehalten sind, gehen verloren: Führen Sie diesen Test zuerst oder für sich aus.</translation>
+    </message>
+    <message id="kiv-reboot-first">
+        <source>Did the phone come up at the first try, up to its usual screen?</source>
+        <translation>Ist das Telefon beim ersten Versuch bis zu seinem üblichen Bildschirm hochgefahren?</translation>
+    </message>
+    <message id="kiv-reboot-first-bad">
+        <source>The phone did not come up at the first try.</source>
+        <translation>Das Telefon ist beim ersten Versuch nicht hochgefahren.</translation>
+    </message>
+    <message id="kiv-reboot-error">
+        <source>Did it show an error, or ask for anything that it did not ask for before?</source>
+        <translation>Hat es einen Fehler gezeigt oder etwas gefragt, was es vorher nicht gefragt hat?</translation>
+    </message>
+    <message id="kiv-reboot-error-bad">
+        <source>The phone showed an error while it started.</source>
+        <translation>Das Telefon hat beim Hochfahren einen Fehler gezeigt.</translation>
+    </message>
+    <message id="kiv-reboot-good">
+        <source>The phone was restarted and came up again.</source>
+        <translation>Das Telefon wurde neu gestartet und ist wieder hochgefahren.</translation>
+    </message>
+    <message id="kiv-reboot-age">
+        <source>Since the start</source>
+        <translation>Seit dem Start</translation>
+    </message>
+    <message id="kiv-suspend-good">
+        <source>The phone slept and woke up: %1 s</source>
+        <translation>Das Telefon hat geschlafen und ist aufgewacht: %1 s</translation>
+    </message>
+    <message id="kiv-suspend-instructions">
+        <source>Unplug the charger and press the power key, so that the panel goes dark. Wait half a minute, then wake the phone.</source>
+        <translation>Ziehen Sie das Ladegerät ab und drücken Sie die Ein-/Aus-Taste, sodass der Bildschirm dunkel wird. Warten Sie eine halbe Minute und wecken Sie das Telefon.</translation>
+    </message>
+    <message id="kiv-suspend-hint">
+        <source>Pass unlocks when the phone has slept.</source>
+        <translation>„Bestanden“ ist gesperrt, bis das Telefon geschlafen hat.</translation>
+    </message>
+    <message id="kiv-suspend-missing">
+        <source>The mode-control service does not answer, so nobody knows whether the phone has slept.</source>
+        <translation>Der Modusdienst antwortet nicht; niemand weiß also, ob das Telefon geschlafen hat.</translation>
+    </message>
+    <message id="kiv-suspend-step-sleep">
+        <source>Let the phone sleep</source>
+        <translation>Lassen Sie das Telefon schlafen</translation>
+    </message>
+    <message id="kiv-suspend-step-wake">
+        <source>Wake it</source>
+        <translation>Wecken Sie es</translation>
+    </message>
+    <message id="kiv-suspend-note">
+        <source>A phone that charges or that a computer is connected to stays awake behind its dark panel.</source>
+        <translation>Ein Telefon, das lädt oder mit einem Computer verbunden ist, bleibt hinter dem dunklen Bildschirm wach.</translation>
+    </message>
+    <message id="kiv-suspend-total">
+        <source>Slept since the phone was started</source>
+        <translation>Schlaf seit dem Start des Telefons</translation>
+    </message>
+    <message id="kiv-suspend-since">
+        <source>Slept during this test</source>
+        <translation>Schlaf während dieses Tests</translation>
+    </message>
+    <message id="kiv-resistance-missing">
+        <source>The battery&apos;s voltage and current cannot be read here.</source>
+        <translation>Spannung und Strom des Akkus sind hier nicht zu lesen.</translation>
+    </message>
+    <message id="kiv-resistance-good">
+        <source>The battery&apos;s internal resistance is in order.</source>
+        <translation>Der Innenwiderstand des Akkus ist in Ordnung.</translation>
+    </message>
+    <message id="kiv-resistance-hint">
+        <source>Pass unlocks when the resistance has been measured.</source>
+        <translation>„Bestanden“ ist gesperrt, bis der Widerstand gemessen ist.</translation>
+    </message>
+    <message id="kiv-resistance-off">
+        <source>The settings of this phone do not ask for this test.</source>
+        <translation>Die Einstellungen dieses Telefons verlangen diesen Test nicht.</translation>
+    </message>
+    <message id="kiv-resistance-step-on">
+        <source>Measuring with the charger on: leave the phone alone</source>
+        <translation>Messung mit Ladegerät: Lassen Sie das Telefon in Ruhe</translation>
+    </message>
+    <message id="kiv-resistance-step-off">
+        <source>Measuring with the charger off</source>
+        <translation>Messung ohne Ladestrom</translation>
+    </message>
+    <message id="kiv-resistance-step-again">
+        <source>Measuring with the charger on again</source>
+        <translation>Erneute Messung mit Ladegerät</translation>
+    </message>
+    <message id="kiv-resistance-voltage-on">
+        <source>Voltage, charger on</source>
+        <translation>Spannung, Ladegerät an</translation>
+    </message>
+    <message id="kiv-resistance-voltage-off">
+        <source>Voltage, charger off</source>
+        <translation>Spannung, Ladegerät aus</translation>
+    </message>
+    <message id="kiv-resistance-step">
+        <source>Step of the current</source>
+        <translation>Stromsprung</translation>
+    </message>
+    <message id="kiv-resistance">
+        <source>Internal resistance</source>
+        <translation>Innenwiderstand</translation>
+    </message>
+    <message id="kiv-keylight-instructions">
+        <source>Look at the keys beside the panel. If they have no light, choose Not applicable.</source>
+        <translation>Sehen Sie auf die Tasten neben dem Bildschirm. Haben sie kein Licht, wählen Sie „Entfällt“.</translation>
+    </message>
+    <message id="kiv-keylight-note">
+        <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>
+        <translation>Kiv kann dieses Licht nicht schalten: Das Telefon beleuchtet die Tasten nach einer Berührung und verdunkelt sie wieder.</translation>
+    </message>
+    <message id="kiv-keylight-step-touch">
+        <source>Touch the field below</source>
+        <translation>Berühren Sie das Feld unten</translation>
+    </message>
+    <message id="kiv-keylight-step-rest">
+        <source>Keep your hands off: %1 s</source>
+        <translation>Hände weg: %1 s</translation>
+    </message>
+    <message id="kiv-keylight-touch">
+        <source>Touch here</source>
+        <translation>Hier berühren</translation>
+    </message>
+    <message id="kiv-keylight-lit">
+        <source>Are the keys lit now?</source>
+        <translation>Leuchten die Tasten jetzt?</translation>
+    </message>
+    <message id="kiv-keylight-lit-bad">
+        <source>The keys do not light up after a touch.</source>
+        <translation>Die Tasten leuchten nach einer Berührung nicht auf.</translation>
+    </message>
+    <message id="kiv-keylight-stayed">
+        <source>Did the keys stay lit while you kept your hands off?</source>
+        <translation>Haben die Tasten weiter geleuchtet, während die Hände weg waren?</translation>
+    </message>
+    <message id="kiv-keylight-stayed-bad">
+        <source>The keys stay lit.</source>
+        <translation>Die Tasten leuchten ständig.</translation>
+    </message>
+    <message id="kiv-keylight-equal">
+        <source>Were all of them lit equally bright?</source>
+        <translation>Waren alle gleich hell?</translation>
+    </message>
+    <message id="kiv-keylight-equal-bad">
+        <source>Not all keys are lit equally bright.</source>
+        <translation>Nicht alle Tasten sind gleich hell.</translation>
+    </message>
+    <message id="kiv-keylight-good">
+        <source>The operator saw the keys light up and go out.</source>
+        <translation>Der Prüfer hat die Tasten aufleuchten und dunkel werden sehen.</translation>
+    </message>
+    <message id="kiv-fingerprint-missing">
+        <source>This phone has no fingerprint reader.</source>
+        <translation>Dieses Telefon hat keinen Fingerabdruckleser.</translation>
+    </message>
+    <message id="kiv-fingerprint-instructions">
+        <source>Open the fingerprints in the phone&apos;s settings. Enrol one finger, lock the phone, and touch the reader with this finger and with another one.</source>
+        <translation>Öffnen Sie in den Einstellungen des Telefons die Fingerabdrücke. Nehmen Sie einen Finger auf, sperren Sie das Telefon und berühren Sie den Leser mit diesem und mit einem anderen Finger.</translation>
+    </message>
+    <message id="kiv-fingerprint-note">
+        <source>Kiv cannot reach the reader: the phone keeps fingerprints to itself. Remove the finger from the settings afterwards.</source>
+        <translation>Kiv erreicht den Leser nicht: Das Telefon behält Fingerabdrücke für sich. Löschen Sie den Finger danach aus den Einstellungen.</translation>
+    </message>
+    <message id="kiv-fingerprint-good">
+        <source>The operator saw the reader know one finger and refuse another.</source>
+        <translation>Der Prüfer hat gesehen, dass der Leser einen Finger kennt und einen anderen abweist.</translation>
+    </message>
+    <message id="kiv-fingerprint-enrolled">
+        <source>Could the finger be enrolled?</source>
+        <translation>Ließ sich der Finger aufnehmen?</translation>
+    </message>
+    <message id="kiv-fingerprint-enrolled-bad">
+        <source>The finger could not be enrolled.</source>
+        <translation>Der Finger ließ sich nicht aufnehmen.</translation>
+    </message>
+    <message id="kiv-fingerprint-other">
+        <source>Did another finger unlock the phone?</source>
+        <translation>Hat ein anderer Finger das Telefon entsperrt?</translation>
+    </message>
+    <message id="kiv-fingerprint-other-bad">
+        <source>A finger that was not enrolled unlocked the phone.</source>
+        <translation>Ein nicht aufgenommener Finger hat das Telefon entsperrt.</translation>
+    </message>
+    <message id="kiv-fingerprint-known">
+        <source>Did the enrolled finger unlock the phone?</source>
+        <translation>Hat der aufgenommene Finger das Telefon entsperrt?</translation>
+    </message>
+    <message id="kiv-fingerprint-known-bad">
+        <source>The enrolled finger did not unlock the phone.</source>
+        <translation>Der aufgenommene Finger hat das Telefon nicht entsperrt.</translation>
+    </message>
+    <message id="kiv-lcd-instructions">
+        <source>Look at every picture for dots, lines and stains. Tap for the next one. At the end, count the dots.</source>
+        <translation>Suchen Sie jedes Bild nach Punkten, Linien und Flecken ab. Tippen Sie für das nächste. Am Ende zählen Sie die Punkte.</translation>
+    </message>
+    <message id="kiv-lcd-hint">
+        <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
+        <translation>„Bestanden“ ist gesperrt, bis Sie die Bilder gesehen und die Punkte gezählt haben.</translation>
+    </message>
+    <message id="kiv-lcd-next">
+        <source>Next picture</source>
+        <translation>Nächstes Bild</translation>
+    </message>
+    <message id="kiv-lcd-question">
+        <source>How many dots were on the panel?</source>
+        <translation>Wie viele Punkte waren auf dem Bildschirm?</translation>
+    </message>
+    <message id="kiv-lcd-again">
+        <source>Show the dots again</source>
+        <translation>Punkte noch einmal zeigen</translation>
+    </message>
+    <message id="kiv-lcd-spot">
+        <source>Was a dot, line or stain in a picture that does not belong there?</source>
+        <translation>War in einem Bild ein Punkt, eine Linie oder ein Fleck, der dort nicht hingehört?</translation>
+    </message>
+    <message id="kiv-lcd-spot-bad">
+        <source>The panel has a dot, line or stain.</source>
+        <translation>Der Bildschirm hat einen Punkt, eine Linie oder einen Fleck.</translation>
+    </message>
+    <message id="kiv-lcd-shades">
+        <source>Were all colours and shades there, without steps?</source>
+        <translation>Waren alle Farben und Abstufungen da, ohne Sprünge?</translation>
+    </message>
+    <message id="kiv-lcd-shades-bad">
+        <source>Colours or shades were missing.</source>
+        <translation>Farben oder Abstufungen fehlten.</translation>
+    </message>
+    <message id="kiv-lcd-good">
+        <source>The operator counted the dots and found no fault in the pictures.</source>
+        <translation>Der Prüfer hat die Punkte gezählt und in den Bildern keinen Fehler gefunden.</translation>
+    </message>
+    <message id="kiv-lcd-pictures-again">
+        <source>Show the pictures again</source>
+        <translation>Bilder noch einmal zeigen</translation>
+    </message>
+    <message id="kiv-backlight-instructions">
+        <source>Look at the white panel: is the light even up to the edges? Tap, and watch whether it becomes brighter or darker.</source>
+        <translation>Sehen Sie auf das Weiß: Ist das Licht bis an die Ränder gleichmäßig? Tippen Sie und achten Sie darauf, ob es heller oder dunkler wird.</translation>
+    </message>
+    <message id="kiv-backlight-note">
+        <source>Kiv cannot change the backlight. It is the picture that becomes brighter or darker: what it shows is that the panel is lit and that you looked.</source>
+        <translation>Kiv kann die Beleuchtung nicht ändern. Das Bild wird heller oder dunkler; das zeigt, dass der Bildschirm leuchtet und dass Sie hingesehen haben.</translation>
+    </message>
+    <message id="kiv-backlight-question">
+        <source>What has the panel become?</source>
+        <translation>Was ist der Bildschirm geworden?</translation>
+    </message>
+    <message id="kiv-backlight-brighter">
+        <source>Brighter</source>
+        <translation>Heller</translation>
+    </message>
+    <message id="kiv-backlight-darker">
+        <source>Darker</source>
+        <translation>Dunkler</translation>
+    </message>
+    <message id="kiv-backlight-again">
+        <source>Show it again</source>
+        <translation>Noch einmal zeigen</translation>
+    </message>
+    <message id="kiv-backlight-uneven">
+        <source>Was the white uneven, or did it flicker?</source>
+        <translation>War das Weiß ungleichmäßig oder hat es geflackert?</translation>
+    </message>
+    <message id="kiv-backlight-uneven-bad">
+        <source>The backlight is uneven or flickers.</source>
+        <translation>Die Beleuchtung ist ungleichmäßig oder flackert.</translation>
+    </message>
+    <message id="kiv-backlight-follows">
+        <source>Set the brightness in the phone&apos;s own settings to the lowest and the highest. Does the light follow?</source>
+        <translation>Stellen Sie die Helligkeit in den Einstellungen des Telefons auf den kleinsten und den größten Wert. Folgt das Licht?</translation>
+    </message>
+    <message id="kiv-backlight-follows-bad">
+        <source>The backlight does not follow the phone&apos;s brightness setting.</source>
+        <translation>Die Beleuchtung folgt der Helligkeitseinstellung des Telefons nicht.</translation>
+    </message>
+    <message id="kiv-backlight-good">
+        <source>The operator saw an even light that follows the brightness setting.</source>
+        <translation>Der Prüfer hat ein gleichmäßiges Licht gesehen, das der Helligkeitseinstellung folgt.</translation>
+    </message>
+    <message id="kiv-backlight-white-again">
+        <source>Show the white panel again</source>
+        <translation>Das Weiß noch einmal zeigen</translation>
+    </message>
+    <message id="kiv-led-dark">
+        <source>The light stayed dark while the phone was charging.</source>
+        <translation>Die Leuchte blieb dunkel, während das Telefon lud.</translation>
+    </message>
+    <message id="kiv-led-instructions">
+        <source>Plug a charger in: the phone then lights its notification light.</source>
+        <translation>Stecken Sie ein Ladegerät ein: Das Telefon schaltet dann seine Benachrichtigungsleuchte ein.</translation>
+    </message>
+    <message id="kiv-led-hint">
+        <source>Pass unlocks when you have said what the light does.</source>
+        <translation>„Bestanden“ ist gesperrt, bis Sie gesagt haben, was die Leuchte tut.</translation>
+    </message>
+    <message id="kiv-led-colour">
+        <source>Light while charging</source>
+        <translation>Leuchte beim Laden</translation>
+    </message>
+    <message id="kiv-led-note">
+        <source>Kiv cannot switch this light: it shows what the phone wants to tell, such as that it charges.</source>
+        <translation>Kiv kann diese Leuchte nicht schalten: Sie zeigt, was das Telefon mitteilen will, etwa dass es lädt.</translation>
+    </message>
+    <message id="kiv-led-step-colour">
+        <source>Say what the light does</source>
+        <translation>Sagen Sie, was die Leuchte tut</translation>
+    </message>
+    <message id="kiv-led-step-unplug">
+        <source>Unplug the charger</source>
+        <translation>Ziehen Sie das Ladegerät ab</translation>
+    </message>
+    <message id="kiv-led-plugged">
+        <source>The charger is plugged in</source>
+        <translation>Das Ladegerät ist eingesteckt</translation>
+    </message>
+    <message id="kiv-led-unplugged">
+        <source>The charger is unplugged</source>
+        <translation>Das Ladegerät ist abgezogen</translation>
+    </message>
+    <message id="kiv-led-question">
+        <source>What does the light show?</source>
+        <translation>Was zeigt die Leuchte?</translation>
+    </message>
+    <message id="kiv-led-red">
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message id="kiv-led-orange">
+        <source>Orange or yellow</source>
+        <translation>Orange oder gelb</translation>
+    </message>
+    <message id="kiv-led-green">
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message id="kiv-led-blue">
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message id="kiv-led-white">
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message id="kiv-led-nothing">
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message id="kiv-led-lit">
+        <source>It is lit</source>
+        <translation>Sie leuchtet</translation>
+    </message>
+    <message id="kiv-led-still">
+        <source>Is the light still lit as before?</source>
+        <translation>Leuchtet sie noch wie vorher?</translation>
+    </message>
+    <message id="kiv-led-still-bad">
+        <source>The light does not change when the charger is unplugged.</source>
+        <translation>Die Leuchte ändert sich nicht, wenn das Ladegerät abgezogen wird.</translation>
+    </message>
+    <message id="kiv-led-good">
+        <source>The operator saw the light while the phone charged (%1), and saw it go out.</source>
+        <extracomment>What the operator saw of the notification light</extracomment>
+        <translation>Der Prüfer hat die Leuchte beim Laden gesehen (%1) und wie sie ausging.</translation>
+    </message>
+    <message id="kiv-vibrator-none">
+        <source>None</source>
+        <translation>Keine</translation>
     </message>
     <message id="kiv-summary-code">
         <source>Code for the station</source>

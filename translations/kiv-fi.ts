@@ -986,12 +986,9 @@
         <translation>Lataus jatkuu</translation>
     </message>
     <message id="kiv-vibrator-good">
-        <source>The operator felt the pulses that were given: %1</source>
-        <translation>Testaaja tunsi annetut värähdykset: %1</translation>
-    </message>
-    <message id="kiv-vibrator-bad">
-        <source>Pulses given: %1, felt: %2</source>
-        <translation>Värähdyksiä annettu: %1, tunnettu: %2</translation>
+        <source>The operator felt as many pulses as were given.</source>
+        <oldsource>The operator felt the pulses that were given: %1</oldsource>
+        <translation>Testaaja tunsi yhtä monta värähdystä kuin annettiin.</translation>
     </message>
     <message id="kiv-vibrator-instructions">
         <source>Hold the phone in the hand and count the pulses.</source>
@@ -1355,6 +1352,480 @@
         <source>Answer %1 of %2</source>
         <extracomment>How far the operator is with a question that is asked several times</extracomment>
         <translation>Vastaus %1/%2</translation>
+    </message>
+    <message id="kiv-checks-position">
+        <source>Question %1 of %2</source>
+        <extracomment>How far the operator is with a list of questions</extracomment>
+        <translation>Kysymys %1/%2</translation>
+    </message>
+    <message id="kiv-checks-yes">
+        <source>Yes</source>
+        <translation>Kyllä</translation>
+    </message>
+    <message id="kiv-checks-no">
+        <source>No</source>
+        <translation>Ei</translation>
+    </message>
+    <message id="kiv-data-missing">
+        <source>No modem was found, so there is no mobile data.</source>
+        <translation>Modeemia ei löytynyt, joten mobiilidataa ei ole.</translation>
+    </message>
+    <message id="kiv-data-instructions">
+        <source>Switch Wi-Fi off and mobile data on, open a web page that was not open before, and switch Wi-Fi on again.</source>
+        <translation>Kytke Wi-Fi pois ja mobiilidata päälle, avaa verkkosivu, joka ei ollut aiemmin auki, ja kytke Wi-Fi takaisin päälle.</translation>
+    </message>
+    <message id="kiv-data-note">
+        <source>Kiv cannot tell over which radio a page comes. Where the phone has two SIM cards, try each.</source>
+        <translation>Kiv ei näe, minkä radion kautta sivu tulee. Jos SIM-kortteja on kaksi, kokeile kummallakin.</translation>
+    </message>
+    <message id="kiv-data-good">
+        <source>The operator loaded a web page over mobile data.</source>
+        <translation>Testaaja latasi verkkosivun mobiilidatalla.</translation>
+    </message>
+    <message id="kiv-data-loaded">
+        <source>SIM card %1: did the web page load without Wi-Fi?</source>
+        <translation>SIM-kortti %1: latautuiko verkkosivu ilman Wi-Fiä?</translation>
+    </message>
+    <message id="kiv-data-loaded-bad">
+        <source>SIM card %1: nothing was loaded over mobile data.</source>
+        <translation>SIM-kortti %1: mobiilidatalla ei latautunut mitään.</translation>
+    </message>
+    <message id="kiv-data-broke">
+        <source>SIM card %1: did the connection break off meanwhile?</source>
+        <translation>SIM-kortti %1: katkesiko yhteys sillä välin?</translation>
+    </message>
+    <message id="kiv-data-broke-bad">
+        <source>SIM card %1: the mobile connection broke off.</source>
+        <translation>SIM-kortti %1: mobiiliyhteys katkesi.</translation>
+    </message>
+    <message id="kiv-voice-heard">
+        <source>SIM card %1: could you hear the other end?</source>
+        <translation>SIM-kortti %1: kuulitko toisen pään?</translation>
+    </message>
+    <message id="kiv-voice-heard-bad">
+        <source>SIM card %1: the other end could not be heard.</source>
+        <translation>SIM-kortti %1: toista päätä ei kuulunut.</translation>
+    </message>
+    <message id="kiv-voice-clear">
+        <source>SIM card %1: did the call break off, crackle or echo?</source>
+        <translation>SIM-kortti %1: katkesiko, rätisikö tai kaikuiko puhelu?</translation>
+    </message>
+    <message id="kiv-voice-clear-bad">
+        <source>SIM card %1: the call broke off, crackled or echoed.</source>
+        <translation>SIM-kortti %1: puhelu katkesi, rätisi tai kaikui.</translation>
+    </message>
+    <message id="kiv-voice-spoke">
+        <source>SIM card %1: could the other end hear you?</source>
+        <translation>SIM-kortti %1: kuuliko toinen pää sinut?</translation>
+    </message>
+    <message id="kiv-voice-spoke-bad">
+        <source>SIM card %1: the other end heard nothing.</source>
+        <translation>SIM-kortti %1: toinen pää ei kuullut mitään.</translation>
+    </message>
+    <message id="kiv-voice-missing">
+        <source>No modem was found, so no call can be made.</source>
+        <translation>Modeemia ei löytynyt, joten puhelua ei voi soittaa.</translation>
+    </message>
+    <message id="kiv-voice-instructions">
+        <source>Call a second phone or a test line with the phone&apos;s own dialler, speak for a moment, and hang up.</source>
+        <translation>Soita puhelimen omalla puhelusovelluksella toiseen puhelimeen tai testinumeroon, puhu hetki ja lopeta puhelu.</translation>
+    </message>
+    <message id="kiv-voice-note">
+        <source>Kiv makes no calls by itself. Where the phone has two SIM cards, call with each.</source>
+        <translation>Kiv ei soita itse. Jos SIM-kortteja on kaksi, soita kummallakin.</translation>
+    </message>
+    <message id="kiv-voice-good">
+        <source>The operator made a call and both ends heard each other.</source>
+        <translation>Testaaja soitti puhelun, ja molemmat päät kuulivat toisensa.</translation>
+    </message>
+    <message id="kiv-guided-hint">
+        <source>Pass unlocks when you have answered the questions.</source>
+        <translation>Hyväksyntä avautuu, kun olet vastannut kysymyksiin.</translation>
+    </message>
+    <message id="kiv-reboot-missing">
+        <source>The system does not tell when it was started.</source>
+        <translation>Järjestelmä ei kerro, milloin se käynnistettiin.</translation>
+    </message>
+    <message id="kiv-reboot-instructions">
+        <source>Restart the phone with its power key or its menu. When it is up again, start Kiv and open this test anew.</source>
+        <translation>Käynnistä puhelin uudelleen virtapainikkeella tai valikosta. Kun se on käynnissä, käynnistä Kiv ja avaa tämä testi uudelleen.</translation>
+    </message>
+    <message id="kiv-reboot-hint">
+        <source>Pass unlocks when the phone was restarted a short while ago and you have answered the questions.</source>
+        <translation>Hyväksyntä avautuu, kun puhelin on äskettäin käynnistetty uudelleen ja olet vastannut kysymyksiin.</translation>
+    </message>
+    <message id="kiv-reboot-note">
+        <source>A restart ends Kiv, and the verdicts that are not kept elsewhere are gone: do this test first or by itself.</source>
+        <translation>Uudelleenkäynnistys sulkee Kivin, ja muualle tallentamattomat tulokset katoavat: tee tämä testi ensin tai erikseen.</translation>
+    </message>
+    <message id="kiv-reboot-first">
+        <source>Did the phone come up at the first try, up to its usual screen?</source>
+        <translation>Käynnistyikö puhelin ensimmäisellä yrityksellä tavalliseen näkymäänsä asti?</translation>
+    </message>
+    <message id="kiv-reboot-first-bad">
+        <source>The phone did not come up at the first try.</source>
+        <translation>Puhelin ei käynnistynyt ensimmäisellä yrityksellä.</translation>
+    </message>
+    <message id="kiv-reboot-error">
+        <source>Did it show an error, or ask for anything that it did not ask for before?</source>
+        <translation>Näyttikö se virheen tai kysyikö se jotakin, mitä se ei ennen kysynyt?</translation>
+    </message>
+    <message id="kiv-reboot-error-bad">
+        <source>The phone showed an error while it started.</source>
+        <translation>Puhelin näytti virheen käynnistyessään.</translation>
+    </message>
+    <message id="kiv-reboot-good">
+        <source>The phone was restarted and came up again.</source>
+        <translation>Puhelin käynnistettiin uudelleen, ja se nousi taas ylös.</translation>
+    </message>
+    <message id="kiv-reboot-age">
+        <source>Since the start</source>
+        <translation>Käynnistyksestä</translation>
+    </message>
+    <message id="kiv-suspend-good">
+        <source>The phone slept and woke up: %1 s</source>
+        <translation>Puhelin nukkui ja heräsi: %1 s</translation>
+    </message>
+    <message id="kiv-suspend-instructions">
+        <source>Unplug the charger and press the power key, so that the panel goes dark. Wait half a minute, then wake the phone.</source>
+        <translation>Irrota laturi ja paina virtapainiketta niin, että näyttö pimenee. Odota puoli minuuttia ja herätä puhelin.</translation>
+    </message>
+    <message id="kiv-suspend-hint">
+        <source>Pass unlocks when the phone has slept.</source>
+        <translation>Hyväksyntä avautuu, kun puhelin on nukkunut.</translation>
+    </message>
+    <message id="kiv-suspend-missing">
+        <source>The mode-control service does not answer, so nobody knows whether the phone has slept.</source>
+        <translation>Tilanhallintapalvelu ei vastaa, joten kukaan ei tiedä, onko puhelin nukkunut.</translation>
+    </message>
+    <message id="kiv-suspend-step-sleep">
+        <source>Let the phone sleep</source>
+        <translation>Anna puhelimen nukkua</translation>
+    </message>
+    <message id="kiv-suspend-step-wake">
+        <source>Wake it</source>
+        <translation>Herätä se</translation>
+    </message>
+    <message id="kiv-suspend-note">
+        <source>A phone that charges or that a computer is connected to stays awake behind its dark panel.</source>
+        <translation>Latautuva tai tietokoneeseen liitetty puhelin pysyy hereillä pimeän näytön takana.</translation>
+    </message>
+    <message id="kiv-suspend-total">
+        <source>Slept since the phone was started</source>
+        <translation>Nukuttu puhelimen käynnistyksestä</translation>
+    </message>
+    <message id="kiv-suspend-since">
+        <source>Slept during this test</source>
+        <translation>Nukuttu tämän testin aikana</translation>
+    </message>
+    <message id="kiv-resistance-missing">
+        <source>The battery&apos;s voltage and current cannot be read here.</source>
+        <translation>Akun jännitettä ja virtaa ei voi lukea täällä.</translation>
+    </message>
+    <message id="kiv-resistance-good">
+        <source>The battery&apos;s internal resistance is in order.</source>
+        <translation>Akun sisäinen vastus on kunnossa.</translation>
+    </message>
+    <message id="kiv-resistance-hint">
+        <source>Pass unlocks when the resistance has been measured.</source>
+        <translation>Hyväksyntä avautuu, kun vastus on mitattu.</translation>
+    </message>
+    <message id="kiv-resistance-off">
+        <source>The settings of this phone do not ask for this test.</source>
+        <translation>Tämän puhelimen asetukset eivät pyydä tätä testiä.</translation>
+    </message>
+    <message id="kiv-resistance-step-on">
+        <source>Measuring with the charger on: leave the phone alone</source>
+        <translation>Mitataan laturin kanssa: jätä puhelin rauhaan</translation>
+    </message>
+    <message id="kiv-resistance-step-off">
+        <source>Measuring with the charger off</source>
+        <translation>Mitataan ilman latausvirtaa</translation>
+    </message>
+    <message id="kiv-resistance-step-again">
+        <source>Measuring with the charger on again</source>
+        <translation>Mitataan uudelleen laturin kanssa</translation>
+    </message>
+    <message id="kiv-resistance-voltage-on">
+        <source>Voltage, charger on</source>
+        <translation>Jännite, laturi päällä</translation>
+    </message>
+    <message id="kiv-resistance-voltage-off">
+        <source>Voltage, charger off</source>
+        <translation>Jännite, laturi pois</translation>
+    </message>
+    <message id="kiv-resistance-step">
+        <source>Step of the current</source>
+        <translation>Virran muutos</translation>
+    </message>
+    <message id="kiv-resistance">
+        <source>Internal resistance</source>
+        <translation>Sisäinen vastus</translation>
+    </message>
+    <message id="kiv-keylight-instructions">
+        <source>Look at the keys beside the panel. If they have no light, choose Not applicable.</source>
+        <translation>Katso näytön viereisiä näppäimiä. Jos niissä ei ole valoa, valitse ”Ei koske”.</translation>
+    </message>
+    <message id="kiv-keylight-note">
+        <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>
+        <translation>Kiv ei voi kytkeä tätä valoa: puhelin valaisee näppäimet kosketuksen jälkeen ja sammuttaa ne taas.</translation>
+    </message>
+    <message id="kiv-keylight-step-touch">
+        <source>Touch the field below</source>
+        <translation>Kosketa alla olevaa kenttää</translation>
+    </message>
+    <message id="kiv-keylight-step-rest">
+        <source>Keep your hands off: %1 s</source>
+        <translation>Kädet irti: %1 s</translation>
+    </message>
+    <message id="kiv-keylight-touch">
+        <source>Touch here</source>
+        <translation>Kosketa tästä</translation>
+    </message>
+    <message id="kiv-keylight-lit">
+        <source>Are the keys lit now?</source>
+        <translation>Palavatko näppäinten valot nyt?</translation>
+    </message>
+    <message id="kiv-keylight-lit-bad">
+        <source>The keys do not light up after a touch.</source>
+        <translation>Näppäinten valot eivät syty kosketuksesta.</translation>
+    </message>
+    <message id="kiv-keylight-stayed">
+        <source>Did the keys stay lit while you kept your hands off?</source>
+        <translation>Jäivätkö valot palamaan, kun kädet olivat irti?</translation>
+    </message>
+    <message id="kiv-keylight-stayed-bad">
+        <source>The keys stay lit.</source>
+        <translation>Näppäinten valot jäävät palamaan.</translation>
+    </message>
+    <message id="kiv-keylight-equal">
+        <source>Were all of them lit equally bright?</source>
+        <translation>Olivatko kaikki yhtä kirkkaita?</translation>
+    </message>
+    <message id="kiv-keylight-equal-bad">
+        <source>Not all keys are lit equally bright.</source>
+        <translation>Kaikki näppäimet eivät ole yhtä kirkkaita.</translation>
+    </message>
+    <message id="kiv-keylight-good">
+        <source>The operator saw the keys light up and go out.</source>
+        <translation>Testaaja näki näppäinten valojen syttyvän ja sammuvan.</translation>
+    </message>
+    <message id="kiv-fingerprint-missing">
+        <source>This phone has no fingerprint reader.</source>
+        <translation>Tässä puhelimessa ei ole sormenjälkilukijaa.</translation>
+    </message>
+    <message id="kiv-fingerprint-instructions">
+        <source>Open the fingerprints in the phone&apos;s settings. Enrol one finger, lock the phone, and touch the reader with this finger and with another one.</source>
+        <translation>Avaa sormenjäljet puhelimen asetuksista. Tallenna yksi sormi, lukitse puhelin ja kosketa lukijaa sillä ja toisella sormella.</translation>
+    </message>
+    <message id="kiv-fingerprint-note">
+        <source>Kiv cannot reach the reader: the phone keeps fingerprints to itself. Remove the finger from the settings afterwards.</source>
+        <translation>Kiv ei pääse lukijaan: puhelin pitää sormenjäljet itsellään. Poista sormi asetuksista lopuksi.</translation>
+    </message>
+    <message id="kiv-fingerprint-good">
+        <source>The operator saw the reader know one finger and refuse another.</source>
+        <translation>Testaaja näki lukijan tuntevan yhden sormen ja torjuvan toisen.</translation>
+    </message>
+    <message id="kiv-fingerprint-enrolled">
+        <source>Could the finger be enrolled?</source>
+        <translation>Onnistuiko sormen tallennus?</translation>
+    </message>
+    <message id="kiv-fingerprint-enrolled-bad">
+        <source>The finger could not be enrolled.</source>
+        <translation>Sormen tallennus ei onnistunut.</translation>
+    </message>
+    <message id="kiv-fingerprint-other">
+        <source>Did another finger unlock the phone?</source>
+        <translation>Avasiko toinen sormi puhelimen?</translation>
+    </message>
+    <message id="kiv-fingerprint-other-bad">
+        <source>A finger that was not enrolled unlocked the phone.</source>
+        <translation>Tallentamaton sormi avasi puhelimen.</translation>
+    </message>
+    <message id="kiv-fingerprint-known">
+        <source>Did the enrolled finger unlock the phone?</source>
+        <translation>Avasiko tallennettu sormi puhelimen?</translation>
+    </message>
+    <message id="kiv-fingerprint-known-bad">
+        <source>The enrolled finger did not unlock the phone.</source>
+        <translation>Tallennettu sormi ei avannut puhelinta.</translation>
+    </message>
+    <message id="kiv-lcd-instructions">
+        <source>Look at every picture for dots, lines and stains. Tap for the next one. At the end, count the dots.</source>
+        <translation>Etsi jokaisesta kuvasta pisteitä, viivoja ja läiskiä. Seuraavaan pääset napauttamalla. Laske lopuksi pisteet.</translation>
+    </message>
+    <message id="kiv-lcd-hint">
+        <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
+        <translation>Hyväksyntä avautuu, kun olet nähnyt kuvat ja laskenut pisteet.</translation>
+    </message>
+    <message id="kiv-lcd-next">
+        <source>Next picture</source>
+        <translation>Seuraava kuva</translation>
+    </message>
+    <message id="kiv-lcd-question">
+        <source>How many dots were on the panel?</source>
+        <translation>Montako pistettä näytöllä oli?</translation>
+    </message>
+    <message id="kiv-lcd-again">
+        <source>Show the dots again</source>
+        <translation>Näytä pisteet uudelleen</translation>
+    </message>
+    <message id="kiv-lcd-spot">
+        <source>Was a dot, line or stain in a picture that does not belong there?</source>
+        <translation>Oliko jossakin kuvassa piste, viiva tai läiskä, joka ei kuulu siihen?</translation>
+    </message>
+    <message id="kiv-lcd-spot-bad">
+        <source>The panel has a dot, line or stain.</source>
+        <translation>Näytössä on piste, viiva tai läiskä.</translation>
+    </message>
+    <message id="kiv-lcd-shades">
+        <source>Were all colours and shades there, without steps?</source>
+        <translation>Olivatko kaikki värit ja sävyt näkyvissä ilman portaita?</translation>
+    </message>
+    <message id="kiv-lcd-shades-bad">
+        <source>Colours or shades were missing.</source>
+        <translation>Värejä tai sävyjä puuttui.</translation>
+    </message>
+    <message id="kiv-lcd-good">
+        <source>The operator counted the dots and found no fault in the pictures.</source>
+        <translation>Testaaja laski pisteet eikä löytänyt kuvista vikaa.</translation>
+    </message>
+    <message id="kiv-lcd-pictures-again">
+        <source>Show the pictures again</source>
+        <translation>Näytä kuvat uudelleen</translation>
+    </message>
+    <message id="kiv-backlight-instructions">
+        <source>Look at the white panel: is the light even up to the edges? Tap, and watch whether it becomes brighter or darker.</source>
+        <translation>Katso valkoista: onko valo tasainen reunoihin asti? Napauta ja katso, muuttuuko se kirkkaammaksi vai tummemmaksi.</translation>
+    </message>
+    <message id="kiv-backlight-note">
+        <source>Kiv cannot change the backlight. It is the picture that becomes brighter or darker: what it shows is that the panel is lit and that you looked.</source>
+        <translation>Kiv ei voi muuttaa taustavaloa. Kuva kirkastuu tai tummuu; se osoittaa, että näyttö on valaistu ja että katsoit.</translation>
+    </message>
+    <message id="kiv-backlight-question">
+        <source>What has the panel become?</source>
+        <translation>Millaiseksi näyttö muuttui?</translation>
+    </message>
+    <message id="kiv-backlight-brighter">
+        <source>Brighter</source>
+        <translation>Kirkkaampi</translation>
+    </message>
+    <message id="kiv-backlight-darker">
+        <source>Darker</source>
+        <translation>Tummempi</translation>
+    </message>
+    <message id="kiv-backlight-again">
+        <source>Show it again</source>
+        <translation>Näytä uudelleen</translation>
+    </message>
+    <message id="kiv-backlight-uneven">
+        <source>Was the white uneven, or did it flicker?</source>
+        <translation>Oliko valkoinen epätasainen tai välkkyikö se?</translation>
+    </message>
+    <message id="kiv-backlight-uneven-bad">
+        <source>The backlight is uneven or flickers.</source>
+        <translation>Taustavalo on epätasainen tai välkkyy.</translation>
+    </message>
+    <message id="kiv-backlight-follows">
+        <source>Set the brightness in the phone&apos;s own settings to the lowest and the highest. Does the light follow?</source>
+        <translation>Säädä kirkkaus puhelimen asetuksista pienimmäksi ja suurimmaksi. Seuraako valo?</translation>
+    </message>
+    <message id="kiv-backlight-follows-bad">
+        <source>The backlight does not follow the phone&apos;s brightness setting.</source>
+        <translation>Taustavalo ei seuraa puhelimen kirkkausasetusta.</translation>
+    </message>
+    <message id="kiv-backlight-good">
+        <source>The operator saw an even light that follows the brightness setting.</source>
+        <translation>Testaaja näki tasaisen valon, joka seuraa kirkkausasetusta.</translation>
+    </message>
+    <message id="kiv-backlight-white-again">
+        <source>Show the white panel again</source>
+        <translation>Näytä valkoinen uudelleen</translation>
+    </message>
+    <message id="kiv-led-dark">
+        <source>The light stayed dark while the phone was charging.</source>
+        <translation>Valo pysyi pimeänä, kun puhelin latautui.</translation>
+    </message>
+    <message id="kiv-led-instructions">
+        <source>Plug a charger in: the phone then lights its notification light.</source>
+        <translation>Kytke laturi: silloin puhelin sytyttää ilmoitusvalonsa.</translation>
+    </message>
+    <message id="kiv-led-hint">
+        <source>Pass unlocks when you have said what the light does.</source>
+        <translation>Hyväksyntä avautuu, kun olet kertonut, mitä valo tekee.</translation>
+    </message>
+    <message id="kiv-led-colour">
+        <source>Light while charging</source>
+        <translation>Valo ladattaessa</translation>
+    </message>
+    <message id="kiv-led-note">
+        <source>Kiv cannot switch this light: it shows what the phone wants to tell, such as that it charges.</source>
+        <translation>Kiv ei voi kytkeä tätä valoa: se kertoo sen, mitä puhelin haluaa kertoa, kuten että se latautuu.</translation>
+    </message>
+    <message id="kiv-led-step-colour">
+        <source>Say what the light does</source>
+        <translation>Kerro, mitä valo tekee</translation>
+    </message>
+    <message id="kiv-led-step-unplug">
+        <source>Unplug the charger</source>
+        <translation>Irrota laturi</translation>
+    </message>
+    <message id="kiv-led-plugged">
+        <source>The charger is plugged in</source>
+        <translation>Laturi on kytketty</translation>
+    </message>
+    <message id="kiv-led-unplugged">
+        <source>The charger is unplugged</source>
+        <translation>Laturi on irrotettu</translation>
+    </message>
+    <message id="kiv-led-question">
+        <source>What does the light show?</source>
+        <translation>Mitä valo näyttää?</translation>
+    </message>
+    <message id="kiv-led-red">
+        <source>Red</source>
+        <translation>Punainen</translation>
+    </message>
+    <message id="kiv-led-orange">
+        <source>Orange or yellow</source>
+        <translation>Oranssi tai keltainen</translation>
+    </message>
+    <message id="kiv-led-green">
+        <source>Green</source>
+        <translation>Vihreä</translation>
+    </message>
+    <message id="kiv-led-blue">
+        <source>Blue</source>
+        <translation>Sininen</translation>
+    </message>
+    <message id="kiv-led-white">
+        <source>White</source>
+        <translation>Valkoinen</translation>
+    </message>
+    <message id="kiv-led-nothing">
+        <source>Nothing</source>
+        <translation>Ei mitään</translation>
+    </message>
+    <message id="kiv-led-lit">
+        <source>It is lit</source>
+        <translation>Se palaa</translation>
+    </message>
+    <message id="kiv-led-still">
+        <source>Is the light still lit as before?</source>
+        <translation>Palaako valo yhä kuten ennen?</translation>
+    </message>
+    <message id="kiv-led-still-bad">
+        <source>The light does not change when the charger is unplugged.</source>
+        <translation>Valo ei muutu, kun laturi irrotetaan.</translation>
+    </message>
+    <message id="kiv-led-good">
+        <source>The operator saw the light while the phone charged (%1), and saw it go out.</source>
+        <extracomment>What the operator saw of the notification light</extracomment>
+        <translation>Testaaja näki valon ladattaessa (%1) ja sen sammuvan.</translation>
+    </message>
+    <message id="kiv-vibrator-none">
+        <source>None</source>
+        <translation>En yhtään</translation>
     </message>
     <message id="kiv-summary-code">
         <source>Code for the station</source>

@@ -1107,11 +1107,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-vibrator-good">
-        <source>The operator felt the pulses that were given: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-vibrator-bad">
-        <source>Pulses given: %1, felt: %2</source>
+        <source>The operator felt as many pulses as were given.</source>
+        <oldsource>The operator felt the pulses that were given: %1</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-vibrator-instructions">
@@ -1369,6 +1366,480 @@
     <message id="kiv-challenge-round">
         <source>Answer %1 of %2</source>
         <extracomment>How far the operator is with a question that is asked several times</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-checks-position">
+        <source>Question %1 of %2</source>
+        <extracomment>How far the operator is with a list of questions</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-checks-yes">
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-checks-no">
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-data-missing">
+        <source>No modem was found, so there is no mobile data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-data-instructions">
+        <source>Switch Wi-Fi off and mobile data on, open a web page that was not open before, and switch Wi-Fi on again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-data-note">
+        <source>Kiv cannot tell over which radio a page comes. Where the phone has two SIM cards, try each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-data-good">
+        <source>The operator loaded a web page over mobile data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-data-loaded">
+        <source>SIM card %1: did the web page load without Wi-Fi?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-data-loaded-bad">
+        <source>SIM card %1: nothing was loaded over mobile data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-data-broke">
+        <source>SIM card %1: did the connection break off meanwhile?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-data-broke-bad">
+        <source>SIM card %1: the mobile connection broke off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-heard">
+        <source>SIM card %1: could you hear the other end?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-heard-bad">
+        <source>SIM card %1: the other end could not be heard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-clear">
+        <source>SIM card %1: did the call break off, crackle or echo?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-clear-bad">
+        <source>SIM card %1: the call broke off, crackled or echoed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-spoke">
+        <source>SIM card %1: could the other end hear you?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-spoke-bad">
+        <source>SIM card %1: the other end heard nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-missing">
+        <source>No modem was found, so no call can be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-instructions">
+        <source>Call a second phone or a test line with the phone&apos;s own dialler, speak for a moment, and hang up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-note">
+        <source>Kiv makes no calls by itself. Where the phone has two SIM cards, call with each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-voice-good">
+        <source>The operator made a call and both ends heard each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-guided-hint">
+        <source>Pass unlocks when you have answered the questions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-missing">
+        <source>The system does not tell when it was started.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-instructions">
+        <source>Restart the phone with its power key or its menu. When it is up again, start Kiv and open this test anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-hint">
+        <source>Pass unlocks when the phone was restarted a short while ago and you have answered the questions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-note">
+        <source>A restart ends Kiv, and the verdicts that are not kept elsewhere are gone: do this test first or by itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-first">
+        <source>Did the phone come up at the first try, up to its usual screen?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-first-bad">
+        <source>The phone did not come up at the first try.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-error">
+        <source>Did it show an error, or ask for anything that it did not ask for before?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-error-bad">
+        <source>The phone showed an error while it started.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-good">
+        <source>The phone was restarted and came up again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-reboot-age">
+        <source>Since the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-good">
+        <source>The phone slept and woke up: %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-instructions">
+        <source>Unplug the charger and press the power key, so that the panel goes dark. Wait half a minute, then wake the phone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-hint">
+        <source>Pass unlocks when the phone has slept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-missing">
+        <source>The mode-control service does not answer, so nobody knows whether the phone has slept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-step-sleep">
+        <source>Let the phone sleep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-step-wake">
+        <source>Wake it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-note">
+        <source>A phone that charges or that a computer is connected to stays awake behind its dark panel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-total">
+        <source>Slept since the phone was started</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-suspend-since">
+        <source>Slept during this test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-missing">
+        <source>The battery&apos;s voltage and current cannot be read here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-good">
+        <source>The battery&apos;s internal resistance is in order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-hint">
+        <source>Pass unlocks when the resistance has been measured.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-off">
+        <source>The settings of this phone do not ask for this test.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-step-on">
+        <source>Measuring with the charger on: leave the phone alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-step-off">
+        <source>Measuring with the charger off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-step-again">
+        <source>Measuring with the charger on again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-voltage-on">
+        <source>Voltage, charger on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-voltage-off">
+        <source>Voltage, charger off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance-step">
+        <source>Step of the current</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-resistance">
+        <source>Internal resistance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-instructions">
+        <source>Look at the keys beside the panel. If they have no light, choose Not applicable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-note">
+        <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-step-touch">
+        <source>Touch the field below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-step-rest">
+        <source>Keep your hands off: %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-touch">
+        <source>Touch here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-lit">
+        <source>Are the keys lit now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-lit-bad">
+        <source>The keys do not light up after a touch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-stayed">
+        <source>Did the keys stay lit while you kept your hands off?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-stayed-bad">
+        <source>The keys stay lit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-equal">
+        <source>Were all of them lit equally bright?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-equal-bad">
+        <source>Not all keys are lit equally bright.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-keylight-good">
+        <source>The operator saw the keys light up and go out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-missing">
+        <source>This phone has no fingerprint reader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-instructions">
+        <source>Open the fingerprints in the phone&apos;s settings. Enrol one finger, lock the phone, and touch the reader with this finger and with another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-note">
+        <source>Kiv cannot reach the reader: the phone keeps fingerprints to itself. Remove the finger from the settings afterwards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-good">
+        <source>The operator saw the reader know one finger and refuse another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-enrolled">
+        <source>Could the finger be enrolled?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-enrolled-bad">
+        <source>The finger could not be enrolled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-other">
+        <source>Did another finger unlock the phone?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-other-bad">
+        <source>A finger that was not enrolled unlocked the phone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-known">
+        <source>Did the enrolled finger unlock the phone?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fingerprint-known-bad">
+        <source>The enrolled finger did not unlock the phone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-instructions">
+        <source>Look at every picture for dots, lines and stains. Tap for the next one. At the end, count the dots.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-hint">
+        <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-next">
+        <source>Next picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-question">
+        <source>How many dots were on the panel?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-again">
+        <source>Show the dots again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-spot">
+        <source>Was a dot, line or stain in a picture that does not belong there?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-spot-bad">
+        <source>The panel has a dot, line or stain.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-shades">
+        <source>Were all colours and shades there, without steps?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-shades-bad">
+        <source>Colours or shades were missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-good">
+        <source>The operator counted the dots and found no fault in the pictures.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-lcd-pictures-again">
+        <source>Show the pictures again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-instructions">
+        <source>Look at the white panel: is the light even up to the edges? Tap, and watch whether it becomes brighter or darker.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-note">
+        <source>Kiv cannot change the backlight. It is the picture that becomes brighter or darker: what it shows is that the panel is lit and that you looked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-question">
+        <source>What has the panel become?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-brighter">
+        <source>Brighter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-darker">
+        <source>Darker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-again">
+        <source>Show it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-uneven">
+        <source>Was the white uneven, or did it flicker?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-uneven-bad">
+        <source>The backlight is uneven or flickers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-follows">
+        <source>Set the brightness in the phone&apos;s own settings to the lowest and the highest. Does the light follow?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-follows-bad">
+        <source>The backlight does not follow the phone&apos;s brightness setting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-good">
+        <source>The operator saw an even light that follows the brightness setting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-backlight-white-again">
+        <source>Show the white panel again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-dark">
+        <source>The light stayed dark while the phone was charging.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-instructions">
+        <source>Plug a charger in: the phone then lights its notification light.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-hint">
+        <source>Pass unlocks when you have said what the light does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-colour">
+        <source>Light while charging</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-note">
+        <source>Kiv cannot switch this light: it shows what the phone wants to tell, such as that it charges.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-step-colour">
+        <source>Say what the light does</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-step-unplug">
+        <source>Unplug the charger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-plugged">
+        <source>The charger is plugged in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-unplugged">
+        <source>The charger is unplugged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-question">
+        <source>What does the light show?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-red">
+        <source>Red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-orange">
+        <source>Orange or yellow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-green">
+        <source>Green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-blue">
+        <source>Blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-white">
+        <source>White</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-nothing">
+        <source>Nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-lit">
+        <source>It is lit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-still">
+        <source>Is the light still lit as before?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-still-bad">
+        <source>The light does not change when the charger is unplugged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-good">
+        <source>The operator saw the light while the phone charged (%1), and saw it go out.</source>
+        <extracomment>What the operator saw of the notification light</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-vibrator-none">
+        <source>None</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-summary-code">

@@ -20,10 +20,10 @@ var rows = [
     { name: "VerificationMultiTouch", title: QT_TRID_NOOP("kiv-test-multi-touch"), needs: ["Touch"], page: "VerificationMultiTouch.qml",
       glyph: "multitouch", kind: "measured", seconds: 15, timeout: 60 },
     //% "Display"
-    { name: "VerificationLcd", title: QT_TRID_NOOP("kiv-test-lcd"), needs: ["LCD"], page: "",
+    { name: "VerificationLcd", title: QT_TRID_NOOP("kiv-test-lcd"), needs: ["LCD"], page: "VerificationLcd.qml",
       glyph: "display", kind: "guided", seconds: 25, timeout: 100, alone: true, runIn: 3 },
     //% "Display backlight"
-    { name: "VerificationLcdBacklight", title: QT_TRID_NOOP("kiv-test-lcd-backlight"), needs: ["Backlight"], page: "",
+    { name: "VerificationLcdBacklight", title: QT_TRID_NOOP("kiv-test-lcd-backlight"), needs: ["Backlight"], page: "VerificationLcdBacklight.qml",
       glyph: "light", kind: "guided", seconds: 15, timeout: 60, alone: true, runIn: 1 },
     //% "Light sensor"
     { name: "VerificationLightSensor", title: QT_TRID_NOOP("kiv-test-light"), needs: ["LightSensor"], page: "VerificationLightSensor.qml",
@@ -41,7 +41,7 @@ var rows = [
     { name: "VerificationHallDetect", title: QT_TRID_NOOP("kiv-test-hall"), needs: ["Hall"], page: "VerificationHallDetect.qml",
       glyph: "hall", kind: "measured", seconds: 15, timeout: 60 },
     //% "Fingerprint reader"
-    { name: "VerificationFingerprint", title: QT_TRID_NOOP("kiv-test-fingerprint"), needs: ["Fingerprint"], page: "",
+    { name: "VerificationFingerprint", title: QT_TRID_NOOP("kiv-test-fingerprint"), needs: ["Fingerprint"], page: "VerificationFingerprint.qml",
       glyph: "fingerprint", kind: "guided", seconds: 20, timeout: 80 },
     //% "Microphone 1"
     { name: "VerificationAudio1Mic", title: QT_TRID_NOOP("kiv-test-mic-1"), needs: ["AudioMic1"], page: "VerificationAudio1Mic.qml",
@@ -95,10 +95,10 @@ var rows = [
     { name: "VerificationUsbCharging", title: QT_TRID_NOOP("kiv-test-usb-charging"), needs: ["UsbCharging"], page: "VerificationUsbCharging.qml",
       glyph: "charging", kind: "measured", seconds: 30, timeout: 120 },
     //% "Notification light"
-    { name: "VerificationLED", title: QT_TRID_NOOP("kiv-test-led"), needs: ["LED"], page: "",
+    { name: "VerificationLED", title: QT_TRID_NOOP("kiv-test-led"), needs: ["LED"], page: "VerificationLED.qml",
       glyph: "led", kind: "guided", seconds: 20, timeout: 80 },
     //% "Key illumination"
-    { name: "VerificationButtonBacklight", title: QT_TRID_NOOP("kiv-test-button-backlight"), needs: ["Backlight"], page: "",
+    { name: "VerificationButtonBacklight", title: QT_TRID_NOOP("kiv-test-button-backlight"), needs: ["Backlight"], page: "VerificationButtonBacklight.qml",
       glyph: "light", kind: "guided", seconds: 15, timeout: 60 },
     //% "Vibrator"
     { name: "VerificationVibrator", title: QT_TRID_NOOP("kiv-test-vibrator"), needs: ["Vibrator"], page: "VerificationVibrator.qml",
@@ -119,19 +119,19 @@ var rows = [
     { name: "VerificationVideoPlayback", title: QT_TRID_NOOP("kiv-test-video"), needs: ["VideoPlayback"], page: "",
       glyph: "video", kind: "guided", seconds: 30, timeout: 120, alone: true, runIn: 5 },
     //% "Battery resistance"
-    { name: "VerificationBatteryResistance", title: QT_TRID_NOOP("kiv-test-battery-resistance"), needs: ["Battery"], page: "",
+    { name: "VerificationBatteryResistance", title: QT_TRID_NOOP("kiv-test-battery-resistance"), needs: ["Battery"], page: "VerificationBatteryResistance.qml",
       glyph: "battery", kind: "measured", seconds: 60, timeout: 240 },
     //% "Suspend"
-    { name: "Suspend", title: QT_TRID_NOOP("kiv-test-suspend"), needs: ["Suspend"], page: "",
-      glyph: "sleep", kind: "guided", seconds: 30, timeout: 120 },
+    { name: "Suspend", title: QT_TRID_NOOP("kiv-test-suspend"), needs: ["Suspend"], page: "Suspend.qml",
+      glyph: "sleep", kind: "measured", seconds: 30, timeout: 120 },
     //% "Restart"
-    { name: "Reboot", title: QT_TRID_NOOP("kiv-test-reboot"), needs: ["Reboot"], page: "",
+    { name: "Reboot", title: QT_TRID_NOOP("kiv-test-reboot"), needs: ["Reboot"], page: "Reboot.qml",
       glyph: "power", kind: "guided", seconds: 60, timeout: 240 },
     //% "Phone call"
-    { name: "CellularVoice", title: QT_TRID_NOOP("kiv-test-cellular-voice"), needs: ["CellularVoice"], page: "",
+    { name: "CellularVoice", title: QT_TRID_NOOP("kiv-test-cellular-voice"), needs: ["CellularVoice"], page: "CellularVoice.qml",
       glyph: "call", kind: "guided", seconds: 60, timeout: 240 },
     //% "Mobile data"
-    { name: "CellularData", title: QT_TRID_NOOP("kiv-test-cellular-data"), needs: ["CellularData"], page: "",
+    { name: "CellularData", title: QT_TRID_NOOP("kiv-test-cellular-data"), needs: ["CellularData"], page: "CellularData.qml",
       glyph: "data", kind: "guided", seconds: 60, timeout: 240 },
     //% "Network addresses"
     { name: "MacAddresses", title: QT_TRID_NOOP("kiv-test-mac-addresses"), needs: ["MacAddresses"], page: "MacAddresses.qml",

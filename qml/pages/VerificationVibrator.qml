@@ -8,37 +8,25 @@ import "../controls"
 TestPage {
     id: page
 
-    readonly property var choices: [1, 2, 3]
     readonly property int pulseMs: 350
     readonly property int pauseMs: 450
     property bool motor: false
 
-    property int given: 0
     property int sent: 0
-    property bool felt: false
 
     function play() {
         sent = 0;
-        pulses.start();
+        pulses.restart();
     }
 
+    /*! Once more than there are pulses: the last one has to be over before it can be counted. */
     function pulse() {
-        if (motor)
+        if (++sent > challenge.expected)
+            pulses.stop();
+        else if (motor)
             haptics.start();
         else
             theme.play();
-        if (++sent >= given)
-            pulses.stop();
-    }
-
-    function answer(count) {
-        felt = true;
-        if (count === given)
-            //% "The operator felt the pulses that were given: %1"
-            judge(FactoryUtils.Pass, qsTrId("kiv-vibrator-good").arg(given));
-        else
-            //% "Pulses given: %1, felt: %2"
-            judge(FactoryUtils.Fail, qsTrId("kiv-vibrator-bad").arg(given).arg(count));
     }
 
     //% "Hold the phone in the hand and count the pulses."
@@ -53,11 +41,11 @@ TestPage {
         missing = motor || theme.supported ? "" : qsTrId("kiv-vibrator-missing");
         if (missing !== "")
             return;
-        given = choices[Math.floor(Math.random() * choices.length)];
-        play();
+        challenge.start();
     }
     onClosing: {
         pulses.stop();
+        challenge.stop();
         haptics.stop();
     }
 
@@ -78,41 +66,24 @@ TestPage {
         onTriggered: page.pulse()
     }
 
-    Column {
+    Challenge {
+        id: challenge
         width: parent.width
-        spacing: Theme.margin
-        visible: page.missing === ""
-
-        Words {
-            width: parent.width
-            //% "How many pulses did you feel?"
-            text: qsTrId("kiv-vibrator-question")
-            font.weight: Font.DemiBold
-        }
-        Row {
-            width: parent.width
-            spacing: Theme.gap
-
-            Repeater {
-                model: [0].concat(page.choices)
-
-                PushButton {
-                    objectName: "felt" + modelData
-                    width: (page.width - 3 * Theme.gap) / 4
-                    implicitWidth: width
-                    enabled: page.isOpen && !page.felt
-                    text: modelData
-                    onClicked: page.answer(modelData)
-                }
-            }
-        }
-        PushButton {
-            width: parent.width
-            enabled: page.isOpen && !page.felt && !pulses.running
-            glyph: "retry"
-            //% "Give the pulses again"
-            text: qsTrId("kiv-vibrator-again")
-            onClicked: page.play()
-        }
+        ready: !pulses.running
+        //% "How many pulses did you feel?"
+        question: qsTrId("kiv-vibrator-question")
+        values: [1, 2, 3, 4]
+        choices: [
+            //% "None"
+            { value: 0, text: qsTrId("kiv-vibrator-none") }
+        ].concat(values.map(function(count) {
+            return { value: count, text: Number(count).toLocaleString(Qt.locale(), "f", 0) };
+        }))
+        //% "Give the pulses again"
+        againText: qsTrId("kiv-vibrator-again")
+        onPosed: page.play()
+        //% "The operator felt as many pulses as were given."
+        onPassed: page.judge(FactoryUtils.Pass, qsTrId("kiv-vibrator-good"))
+        onFailed: page.judge(FactoryUtils.Fail, reason)
     }
 }

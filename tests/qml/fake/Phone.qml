@@ -13,6 +13,9 @@ QtObject {
     property var settings: ({})
     property var keys: [0x01000072, 0x01000070]
     property bool batteryVoltageTest: true
+    property string ledType: "RGB"
+    property bool backCameraFlash: true
+    property date machineStart: new Date(2024, 2, 5, 8, 30)
     property var addresses: ({})
     property var validAddresses: []
     property var calibrationFlagOk: false
@@ -37,6 +40,11 @@ QtObject {
     property string sinkName: "sink.primary"
     property string sinkPort: "output-before"
     property string sourceName: "source.builtin"
+    property bool modeControl: true
+    property var deviceTimes: [93784000, 61200000]
+    property bool nfc: true
+    property bool fmTransmitter: false
+    property int modemCount: 1
     property var streams: [{ mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%", corked: false,
                              muted: true }]
 
@@ -56,6 +64,9 @@ QtObject {
         settings = { "CalibrationInfo/Flag": "1", "CalibrationInfo/String": "K-2207" };
         keys = [0x01000072, 0x01000070];
         batteryVoltageTest = true;
+        ledType = "RGB";
+        backCameraFlash = true;
+        machineStart = new Date(2024, 2, 5, 8, 30);
         addresses = { "bluetooth": "00:11:22:aa:bb:cc", "wireless": "00:11:22:aa:bb:cd" };
         validAddresses = ["bluetooth", "wireless"];
         calibrationFlagOk = true;
@@ -80,6 +91,11 @@ QtObject {
         sinkPort = "output-before";
         sourceName = "source.builtin";
         offersRadio = true;
+        modeControl = true;
+        deviceTimes = [93784000, 61200000];
+        nfc = true;
+        fmTransmitter = false;
+        modemCount = 1;
         log = [];
     }
 
@@ -95,6 +111,8 @@ QtObject {
         jackFound = false;
         buttonsFound = false;
         touchSelfTest = false;
+        machineStart = new Date(NaN);
+        modeControl = false;
         rotation = [0, 0, 0];
         rotationGood = false;
         calibrated = [];
