@@ -6,7 +6,7 @@ import KivFake 1.0
 QtObject {
     readonly property bool backCameraFlash: true
     readonly property string ledType: "RGB"
-    readonly property int modemCount: 1
+    readonly property int modemCount: Phone.modemCount
     readonly property double defaultFmRadioFrequency: 90.0
     readonly property string audioInputSource: ""
     readonly property double gSensorMinY: -1.0
