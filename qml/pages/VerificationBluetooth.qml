@@ -18,6 +18,8 @@ TestPage {
         found = [];
         //% "Asking for the Bluetooth radio"
         blocking(qsTrId("kiv-bluetooth-working"), function() {
+            // Anew: a search that is over keeps its error.
+            module.active = false;
             module.active = true;
             if (blind) {
                 if (!address.good)
