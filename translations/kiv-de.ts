@@ -1354,6 +1354,467 @@
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>Das Radio ließ sich nicht einschalten: Die Tonsteuerung antwortet nicht oder bietet es nicht an.</translation>
     </message>
+    <message id="kiv-gps-satellite">
+        <source>Satellite %1, %2 dB</source>
+        <extracomment>A satellite: its number, its strength in decibels</extracomment>
+        <translation>Satellit %1, %2 dB</translation>
+    </message>
+    <message id="kiv-gps-used">
+        <source>in use</source>
+        <translation>benutzt</translation>
+    </message>
+    <message id="kiv-gps-more">
+        <source>Weaker ones that are not shown: %1</source>
+        <extracomment>How many satellites have no bar</extracomment>
+        <translation>Schwächere, die nicht gezeigt werden: %1</translation>
+    </message>
+    <message id="kiv-gps-sky">
+        <source>Places of the satellites in the sky</source>
+        <translation>Orte der Satelliten am Himmel</translation>
+    </message>
+    <message id="kiv-gps-north">
+        <source>N</source>
+        <extracomment>North, one or two letters</extracomment>
+        <translation>N</translation>
+    </message>
+    <message id="kiv-gps-east">
+        <source>E</source>
+        <extracomment>East, one or two letters</extracomment>
+        <translation>O</translation>
+    </message>
+    <message id="kiv-gps-south">
+        <source>S</source>
+        <extracomment>South, one or two letters</extracomment>
+        <translation>S</translation>
+    </message>
+    <message id="kiv-gps-west">
+        <source>W</source>
+        <extracomment>West, one or two letters</extracomment>
+        <translation>W</translation>
+    </message>
+    <message id="kiv-test-radios">
+        <source>Radio switches</source>
+        <translation>Funkschalter</translation>
+    </message>
+    <message id="kiv-bluetooth-off">
+        <source>Bluetooth is switched off.</source>
+        <translation>Bluetooth ist ausgeschaltet.</translation>
+    </message>
+    <message id="kiv-bluetooth-no-radio">
+        <source>No Bluetooth radio was found.</source>
+        <translation>Es wurde kein Bluetooth-Funkteil gefunden.</translation>
+    </message>
+    <message id="kiv-bluetooth-no-service">
+        <source>The Bluetooth service is in trouble or not there.</source>
+        <translation>Der Bluetooth-Dienst ist gestört oder fehlt.</translation>
+    </message>
+    <message id="kiv-network-none">
+        <source>no network</source>
+        <translation>kein Netz</translation>
+    </message>
+    <message id="kiv-network-emergency">
+        <source>emergency calls only</source>
+        <translation>nur Notrufe</translation>
+    </message>
+    <message id="kiv-network-searching">
+        <source>searching</source>
+        <translation>sucht</translation>
+    </message>
+    <message id="kiv-network-busy">
+        <source>busy</source>
+        <translation>ausgelastet</translation>
+    </message>
+    <message id="kiv-network-denied">
+        <source>refused by the network</source>
+        <translation>vom Netz abgewiesen</translation>
+    </message>
+    <message id="kiv-network-home">
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message id="kiv-network-roaming">
+        <source>connected, roaming</source>
+        <translation>verbunden, Roaming</translation>
+    </message>
+    <message id="kiv-switch-on">
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message id="kiv-switch-off">
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message id="kiv-radios-instructions">
+        <source>Compare these with the phone&apos;s settings. A switch that is moved there moves here, too.</source>
+        <translation>Mit den Einstellungen des Telefons vergleichen. Was dort umgeschaltet wird, ändert sich auch hier.</translation>
+    </message>
+    <message id="kiv-radios-hint">
+        <source>Pass unlocks when the mode-control service has answered.</source>
+        <translation>„Bestanden“ ist gesperrt, bis der Mode-Control-Dienst geantwortet hat.</translation>
+    </message>
+    <message id="kiv-radios-lost">
+        <source>The mode-control service does not answer.</source>
+        <translation>Der Mode-Control-Dienst antwortet nicht.</translation>
+    </message>
+    <message id="kiv-radios-service">
+        <source>Mode-control service</source>
+        <translation>Mode-Control-Dienst</translation>
+    </message>
+    <message id="kiv-service-answers">
+        <source>answers</source>
+        <translation>antwortet</translation>
+    </message>
+    <message id="kiv-service-silent">
+        <source>does not answer</source>
+        <translation>antwortet nicht</translation>
+    </message>
+    <message id="kiv-radios-nfc">
+        <source>NFC</source>
+        <translation>NFC</translation>
+    </message>
+    <message id="kiv-radios-fm-transmitter">
+        <source>FM transmitter</source>
+        <translation>UKW-Sender</translation>
+    </message>
+    <message id="kiv-radios-4g">
+        <source>4G preferred by the modem settings</source>
+        <translation>4G laut Modemeinstellungen bevorzugt</translation>
+    </message>
+    <message id="kiv-system-duration">
+        <source>%1 h %2 min %3 s</source>
+        <extracomment>A duration: hours, minutes, seconds</extracomment>
+        <translation>%1 h %2 min %3 s</translation>
+    </message>
+    <message id="kiv-system-up">
+        <source>Switched on for</source>
+        <translation>Eingeschaltet seit</translation>
+    </message>
+    <message id="kiv-system-asleep">
+        <source>Asleep meanwhile</source>
+        <translation>Davon im Ruhezustand</translation>
+    </message>
+    <message id="kiv-bluetooth-working">
+        <source>Asking for the Bluetooth radio</source>
+        <translation>Das Bluetooth-Funkteil wird abgefragt</translation>
+    </message>
+    <message id="kiv-bluetooth-good">
+        <source>The address is in order, and the radio found a device: %1</source>
+        <translation>Die Adresse ist in Ordnung, und das Funkteil hat ein Gerät gefunden: %1</translation>
+    </message>
+    <message id="kiv-bluetooth-instructions-blind">
+        <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds devices.</source>
+        <translation>Die Adresse wird mit ihrem Muster verglichen. Danach in den Einstellungen des Telefons nachsehen, ob es Geräte findet.</translation>
+    </message>
+    <message id="kiv-bluetooth-instructions">
+        <source>Put a device nearby that can be found, such as a headset that is being paired.</source>
+        <translation>Ein Gerät in die Nähe legen, das sich finden lässt, etwa ein Headset im Kopplungsmodus.</translation>
+    </message>
+    <message id="kiv-bluetooth-hint">
+        <source>Pass unlocks when the address is in order and the radio has searched.</source>
+        <translation>„Bestanden“ ist gesperrt, bis die Adresse in Ordnung ist und das Funkteil gesucht hat.</translation>
+    </message>
+    <message id="kiv-bluetooth-missing">
+        <source>This phone has no Bluetooth.</source>
+        <translation>Dieses Telefon hat kein Bluetooth.</translation>
+    </message>
+    <message id="kiv-radio-blind">
+        <source>This phone&apos;s system does not tell anything about the radio.</source>
+        <translation>Das System dieses Telefons sagt nichts über das Funkteil.</translation>
+    </message>
+    <message id="kiv-bluetooth-nobody">
+        <source>The radio searched, but no device answered.</source>
+        <translation>Das Funkteil hat gesucht, aber kein Gerät hat geantwortet.</translation>
+    </message>
+    <message id="kiv-bluetooth-again">
+        <source>Search again</source>
+        <translation>Noch einmal suchen</translation>
+    </message>
+    <message id="kiv-bluetooth-searching">
+        <source>Searching</source>
+        <translation>Sucht</translation>
+    </message>
+    <message id="kiv-radio-found">
+        <source>Radio found</source>
+        <translation>Funkteil gefunden</translation>
+    </message>
+    <message id="kiv-bluetooth-devices">
+        <source>Devices found</source>
+        <translation>Gefundene Geräte</translation>
+    </message>
+    <message id="kiv-gps-status-error">
+        <source>in trouble or not there</source>
+        <translation>gestört oder nicht da</translation>
+    </message>
+    <message id="kiv-gps-status-unavailable">
+        <source>cannot position</source>
+        <translation>kann nicht orten</translation>
+    </message>
+    <message id="kiv-gps-status-acquiring">
+        <source>looking for the position</source>
+        <translation>sucht die Position</translation>
+    </message>
+    <message id="kiv-gps-status-available">
+        <source>knows the position</source>
+        <translation>kennt die Position</translation>
+    </message>
+    <message id="kiv-gps-status-unknown">
+        <source>unknown (%1)</source>
+        <extracomment>The service reports a state that has no name</extracomment>
+        <translation>unbekannt (%1)</translation>
+    </message>
+    <message id="kiv-gps-good">
+        <source>A satellite was in use after %1 s.</source>
+        <translation>Nach %1 s wurde ein Satellit benutzt.</translation>
+    </message>
+    <message id="kiv-gps-instructions">
+        <source>Go outdoors or to a window. The first satellite may take some minutes.</source>
+        <translation>Ins Freie oder an ein Fenster gehen. Der erste Satellit kann einige Minuten dauern.</translation>
+    </message>
+    <message id="kiv-gps-hint-position">
+        <source>Pass unlocks when the positioning service knows the position.</source>
+        <translation>„Bestanden“ ist gesperrt, bis der Ortungsdienst die Position kennt.</translation>
+    </message>
+    <message id="kiv-gps-hint">
+        <source>Pass unlocks when a satellite is in use.</source>
+        <translation>„Bestanden“ ist gesperrt, bis ein Satellit benutzt wird.</translation>
+    </message>
+    <message id="kiv-gps-missing">
+        <source>This phone has no satellite receiver.</source>
+        <translation>Dieses Telefon hat keinen Satellitenempfänger.</translation>
+    </message>
+    <message id="kiv-gps-no-source">
+        <source>The system offers no view of the satellites, only the state of the positioning service.</source>
+        <translation>Das System zeigt keine Satelliten, nur den Zustand des Ortungsdienstes.</translation>
+    </message>
+    <message id="kiv-gps-error">
+        <source>The positioning service is in trouble or does not answer.</source>
+        <translation>Der Ortungsdienst ist gestört oder antwortet nicht.</translation>
+    </message>
+    <message id="kiv-gps-unavailable">
+        <source>The positioning service cannot position. Is positioning switched on in the phone&apos;s settings?</source>
+        <translation>Der Ortungsdienst kann nicht orten. Ist die Ortung in den Einstellungen des Telefons eingeschaltet?</translation>
+    </message>
+    <message id="kiv-gps-source-error">
+        <source>The receiver reports an error.</source>
+        <translation>Der Empfänger meldet einen Fehler.</translation>
+    </message>
+    <message id="kiv-gps-silent">
+        <source>The receiver has not reported for %1 s.</source>
+        <translation>Der Empfänger hat seit %1 s nichts gemeldet.</translation>
+    </message>
+    <message id="kiv-gps-legend">
+        <source>in use for the position</source>
+        <translation>für die Position benutzt</translation>
+    </message>
+    <message id="kiv-gps-status">
+        <source>Positioning service</source>
+        <translation>Ortungsdienst</translation>
+    </message>
+    <message id="kiv-gps-in-view">
+        <source>Satellites in view</source>
+        <translation>Satelliten in Sicht</translation>
+    </message>
+    <message id="kiv-gps-in-use">
+        <source>Satellites in use</source>
+        <translation>Benutzte Satelliten</translation>
+    </message>
+    <message id="kiv-gps-first-seen">
+        <source>First satellite in view after</source>
+        <translation>Erster Satellit in Sicht nach</translation>
+    </message>
+    <message id="kiv-gps-first-used">
+        <source>First satellite in use after</source>
+        <translation>Erster Satellit benutzt nach</translation>
+    </message>
+    <message id="kiv-sim-working">
+        <source>Asking the telephony service</source>
+        <translation>Der Telefoniedienst wird gefragt</translation>
+    </message>
+    <message id="kiv-sim-silent">
+        <source>The telephony service reports no modem, or does not answer.</source>
+        <translation>Der Telefoniedienst meldet kein Modem oder antwortet nicht.</translation>
+    </message>
+    <message id="kiv-sim-good">
+        <source>Every SIM card could be read.</source>
+        <translation>Jede SIM-Karte war lesbar.</translation>
+    </message>
+    <message id="kiv-sim-instructions-blind">
+        <source>See in the phone&apos;s settings whether it knows its SIM card.</source>
+        <translation>In den Einstellungen des Telefons nachsehen, ob es seine SIM-Karte kennt.</translation>
+    </message>
+    <message id="kiv-sim-instructions">
+        <source>Every SIM slot needs a card. One that is locked has to be unlocked first.</source>
+        <translation>In jedes SIM-Fach gehört eine Karte. Eine gesperrte muss zuerst entsperrt werden.</translation>
+    </message>
+    <message id="kiv-sim-hint">
+        <source>Pass unlocks when a SIM card has been read.</source>
+        <translation>„Bestanden“ ist gesperrt, bis eine SIM-Karte gelesen wurde.</translation>
+    </message>
+    <message id="kiv-sim-missing">
+        <source>This phone has no modem.</source>
+        <translation>Dieses Telefon hat kein Modem.</translation>
+    </message>
+    <message id="kiv-sim-cardless">
+        <source>A SIM card is not there, is locked or cannot be read. Look after it, then ask again.</source>
+        <translation>Eine SIM-Karte fehlt, ist gesperrt oder nicht lesbar. Nachsehen und dann noch einmal fragen.</translation>
+    </message>
+    <message id="kiv-sim-again">
+        <source>Ask again</source>
+        <translation>Noch einmal fragen</translation>
+    </message>
+    <message id="kiv-sim-card">
+        <source>SIM card read</source>
+        <translation>SIM-Karte gelesen</translation>
+    </message>
+    <message id="kiv-sim-card-number">
+        <source>SIM card %1 read</source>
+        <translation>SIM-Karte %1 gelesen</translation>
+    </message>
+    <message id="kiv-sim-home">
+        <source>Network of the card</source>
+        <extracomment>The country and the network, both as numbers, that a SIM card belongs to</extracomment>
+        <translation>Netz der Karte</translation>
+    </message>
+    <message id="kiv-sim-state">
+        <source>Mobile network</source>
+        <translation>Mobilfunknetz</translation>
+    </message>
+    <message id="kiv-network-name">
+        <source>Network</source>
+        <translation>Netz</translation>
+    </message>
+    <message id="kiv-network-strength">
+        <source>Signal strength</source>
+        <translation>Signalstärke</translation>
+    </message>
+    <message id="kiv-sim-cards">
+        <source>SIM cards read</source>
+        <translation>Modems</translation>
+    </message>
+    <message id="kiv-usb-otg-good">
+        <source>A drive was seen to come and go.</source>
+        <translation>Das System sah ein Laufwerk kommen und gehen.</translation>
+    </message>
+    <message id="kiv-usb-otg-hint">
+        <source>Pass unlocks when a drive was seen to come and go.</source>
+        <translation>„Bestanden“ ist gesperrt, bis ein Laufwerk kam und ging.</translation>
+    </message>
+    <message id="kiv-usb-otg-missing">
+        <source>This phone cannot take USB devices.</source>
+        <translation>Dieses Telefon kann keine USB-Geräte aufnehmen.</translation>
+    </message>
+    <message id="kiv-usb-otg-step-plug">
+        <source>Plug a USB drive in, with the adapter. If one is in already, pull it out first</source>
+        <translation>Ein USB-Laufwerk mit dem Adapter anstecken. Steckt schon eines, dieses zuerst abziehen</translation>
+    </message>
+    <message id="kiv-usb-otg-step-pull">
+        <source>Pull it out</source>
+        <translation>Abziehen</translation>
+    </message>
+    <message id="kiv-usb-otg-late-gone">
+        <source>The system has not announced that the drive is gone.</source>
+        <translation>Das System hat nicht gemeldet, dass das Laufwerk weg ist.</translation>
+    </message>
+    <message id="kiv-usb-otg-late">
+        <source>The system has not announced any drive.</source>
+        <translation>Das System hat kein Laufwerk gemeldet.</translation>
+    </message>
+    <message id="kiv-usb-otg-late-advice">
+        <source>If it should have: try another drive and adapter, then choose Fail.</source>
+        <translation>Hätte es das sollen: ein anderes Laufwerk und einen anderen Adapter versuchen, dann „Fehler“ wählen.</translation>
+    </message>
+    <message id="kiv-usb-otg-drive">
+        <source>USB drive</source>
+        <translation>USB-Laufwerk</translation>
+    </message>
+    <message id="kiv-usb-otg-there">
+        <source>plugged in</source>
+        <translation>angesteckt</translation>
+    </message>
+    <message id="kiv-usb-otg-none">
+        <source>none seen</source>
+        <translation>keines gesehen</translation>
+    </message>
+    <message id="kiv-wifi-good">
+        <source>The address is in order, and the radio is connected to a network.</source>
+        <translation>Die Adresse ist in Ordnung, und das Funkteil ist mit einem Netz verbunden.</translation>
+    </message>
+    <message id="kiv-wifi-instructions-blind">
+        <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds networks.</source>
+        <translation>Die Adresse wird mit ihrem Muster verglichen. Danach in den Einstellungen des Telefons nachsehen, ob es Netze findet.</translation>
+    </message>
+    <message id="kiv-wifi-instructions">
+        <source>Switch Wi-Fi on and connect the phone to a network: the test passes by itself.</source>
+        <translation>WLAN einschalten und das Telefon mit einem Netz verbinden: Der Test besteht von selbst.</translation>
+    </message>
+    <message id="kiv-wifi-hint">
+        <source>Pass unlocks when the address is in order and the radio was found.</source>
+        <translation>„Bestanden“ ist gesperrt, bis die Adresse in Ordnung ist und das Funkteil gefunden wurde.</translation>
+    </message>
+    <message id="kiv-wifi-missing">
+        <source>This phone has no Wi-Fi.</source>
+        <translation>Dieses Telefon hat kein WLAN.</translation>
+    </message>
+    <message id="kiv-wifi-unconnected">
+        <source>The radio is there, but not connected. Without a network in reach, judge by the networks that the settings list.</source>
+        <translation>Das Funkteil ist da, aber nicht verbunden. Ohne ein erreichbares Netz nach den Netzen urteilen, die in den Einstellungen stehen.</translation>
+    </message>
+    <message id="kiv-wifi-connection">
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message id="kiv-zel-good">
+        <source>The cover was seen to come and go. Its identifier: %1</source>
+        <translation>Der Dienst sah die Hülle kommen und gehen. Ihre Kennung: %1</translation>
+    </message>
+    <message id="kiv-zel-nameless">
+        <source>The cover was seen to come and go, but it did not tell its identifier.</source>
+        <translation>Der Dienst sah die Hülle kommen und gehen, aber sie nannte ihre Kennung nicht.</translation>
+    </message>
+    <message id="kiv-zel-hint">
+        <source>Pass unlocks when a cover was seen to come and go.</source>
+        <translation>„Bestanden“ ist gesperrt, bis eine Hülle kam und ging.</translation>
+    </message>
+    <message id="kiv-zel-missing">
+        <source>This phone has no smart-cover service.</source>
+        <translation>Dieses Telefon hat keinen Dienst für intelligente Hüllen.</translation>
+    </message>
+    <message id="kiv-zel-lost">
+        <source>The smart-cover service does not answer.</source>
+        <translation>Der Dienst für die Hülle antwortet nicht.</translation>
+    </message>
+    <message id="kiv-zel-not-ready">
+        <source>The smart-cover service is not ready to recognise covers yet.</source>
+        <translation>Der Dienst für die Hülle ist noch nicht bereit, eine zu erkennen.</translation>
+    </message>
+    <message id="kiv-zel-step-dock">
+        <source>Put a smart cover on the phone</source>
+        <translation>Eine intelligente Hülle anlegen</translation>
+    </message>
+    <message id="kiv-zel-step-remove">
+        <source>Take it off again</source>
+        <translation>Sie wieder abnehmen</translation>
+    </message>
+    <message id="kiv-zel-service">
+        <source>Smart-cover service</source>
+        <translation>Dienst für die Hülle</translation>
+    </message>
+    <message id="kiv-zel-ready">
+        <source>Ready for covers</source>
+        <translation>Bereit für eine Hülle</translation>
+    </message>
+    <message id="kiv-zel-docked">
+        <source>Cover on the phone</source>
+        <translation>Hülle am Telefon</translation>
+    </message>
+    <message id="kiv-zel-identifier">
+        <source>Identifier of the cover</source>
+        <translation>Kennung der Hülle</translation>
+    </message>
+    <message id="kiv-sim-modem-count">
+        <source>Modems</source>
+        <translation>Modems</translation>
+    </message>
     <message id="kiv-challenge-mistake">
         <source>Shown: %1, answered: %2</source>
         <extracomment>A wrong answer: what was shown and what the operator said</extracomment>

@@ -1339,6 +1339,467 @@
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>Radiota ei voitu kytkeä päälle: ääniohjaus ei vastaa tai ei tarjoa sitä.</translation>
     </message>
+    <message id="kiv-gps-satellite">
+        <source>Satellite %1, %2 dB</source>
+        <extracomment>A satellite: its number, its strength in decibels</extracomment>
+        <translation>Satelliitti %1, %2 dB</translation>
+    </message>
+    <message id="kiv-gps-used">
+        <source>in use</source>
+        <translation>käytössä</translation>
+    </message>
+    <message id="kiv-gps-more">
+        <source>Weaker ones that are not shown: %1</source>
+        <extracomment>How many satellites have no bar</extracomment>
+        <translation>Heikompia, joita ei näytetä: %1</translation>
+    </message>
+    <message id="kiv-gps-sky">
+        <source>Places of the satellites in the sky</source>
+        <translation>Satelliittien paikat taivaalla</translation>
+    </message>
+    <message id="kiv-gps-north">
+        <source>N</source>
+        <extracomment>North, one or two letters</extracomment>
+        <translation>P</translation>
+    </message>
+    <message id="kiv-gps-east">
+        <source>E</source>
+        <extracomment>East, one or two letters</extracomment>
+        <translation>I</translation>
+    </message>
+    <message id="kiv-gps-south">
+        <source>S</source>
+        <extracomment>South, one or two letters</extracomment>
+        <translation>E</translation>
+    </message>
+    <message id="kiv-gps-west">
+        <source>W</source>
+        <extracomment>West, one or two letters</extracomment>
+        <translation>L</translation>
+    </message>
+    <message id="kiv-test-radios">
+        <source>Radio switches</source>
+        <translation>Radiokytkimet</translation>
+    </message>
+    <message id="kiv-bluetooth-off">
+        <source>Bluetooth is switched off.</source>
+        <translation>Bluetooth on pois päältä.</translation>
+    </message>
+    <message id="kiv-bluetooth-no-radio">
+        <source>No Bluetooth radio was found.</source>
+        <translation>Bluetooth-radiota ei löytynyt.</translation>
+    </message>
+    <message id="kiv-bluetooth-no-service">
+        <source>The Bluetooth service is in trouble or not there.</source>
+        <translation>Bluetooth-palvelussa on häiriö tai se puuttuu.</translation>
+    </message>
+    <message id="kiv-network-none">
+        <source>no network</source>
+        <translation>ei verkkoa</translation>
+    </message>
+    <message id="kiv-network-emergency">
+        <source>emergency calls only</source>
+        <translation>vain hätäpuhelut</translation>
+    </message>
+    <message id="kiv-network-searching">
+        <source>searching</source>
+        <translation>etsii</translation>
+    </message>
+    <message id="kiv-network-busy">
+        <source>busy</source>
+        <translation>varattu</translation>
+    </message>
+    <message id="kiv-network-denied">
+        <source>refused by the network</source>
+        <translation>verkko hylkäsi</translation>
+    </message>
+    <message id="kiv-network-home">
+        <source>connected</source>
+        <translation>yhdistetty</translation>
+    </message>
+    <message id="kiv-network-roaming">
+        <source>connected, roaming</source>
+        <translation>yhdistetty, verkkovierailu</translation>
+    </message>
+    <message id="kiv-switch-on">
+        <source>on</source>
+        <translation>päällä</translation>
+    </message>
+    <message id="kiv-switch-off">
+        <source>off</source>
+        <translation>pois</translation>
+    </message>
+    <message id="kiv-radios-instructions">
+        <source>Compare these with the phone&apos;s settings. A switch that is moved there moves here, too.</source>
+        <translation>Vertaa näitä puhelimen asetuksiin. Siellä käännetty kytkin kääntyy myös tässä.</translation>
+    </message>
+    <message id="kiv-radios-hint">
+        <source>Pass unlocks when the mode-control service has answered.</source>
+        <translation>Hyväksyminen avautuu, kun tilanohjauspalvelu on vastannut.</translation>
+    </message>
+    <message id="kiv-radios-lost">
+        <source>The mode-control service does not answer.</source>
+        <translation>Tilanohjauspalvelu ei vastaa.</translation>
+    </message>
+    <message id="kiv-radios-service">
+        <source>Mode-control service</source>
+        <translation>Tilanohjauspalvelu</translation>
+    </message>
+    <message id="kiv-service-answers">
+        <source>answers</source>
+        <translation>vastaa</translation>
+    </message>
+    <message id="kiv-service-silent">
+        <source>does not answer</source>
+        <translation>ei vastaa</translation>
+    </message>
+    <message id="kiv-radios-nfc">
+        <source>NFC</source>
+        <translation>NFC</translation>
+    </message>
+    <message id="kiv-radios-fm-transmitter">
+        <source>FM transmitter</source>
+        <translation>FM-lähetin</translation>
+    </message>
+    <message id="kiv-radios-4g">
+        <source>4G preferred by the modem settings</source>
+        <translation>4G ensisijainen modeemin asetuksissa</translation>
+    </message>
+    <message id="kiv-system-duration">
+        <source>%1 h %2 min %3 s</source>
+        <extracomment>A duration: hours, minutes, seconds</extracomment>
+        <translation>%1 h %2 min %3 s</translation>
+    </message>
+    <message id="kiv-system-up">
+        <source>Switched on for</source>
+        <translation>Päällä</translation>
+    </message>
+    <message id="kiv-system-asleep">
+        <source>Asleep meanwhile</source>
+        <translation>Siitä lepotilassa</translation>
+    </message>
+    <message id="kiv-bluetooth-working">
+        <source>Asking for the Bluetooth radio</source>
+        <translation>Kysytään Bluetooth-radiolta</translation>
+    </message>
+    <message id="kiv-bluetooth-good">
+        <source>The address is in order, and the radio found a device: %1</source>
+        <translation>Osoite on kunnossa, ja radio löysi laitteen: %1</translation>
+    </message>
+    <message id="kiv-bluetooth-instructions-blind">
+        <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds devices.</source>
+        <translation>Osoitetta verrataan kaavaansa. Katso sitten puhelimen asetuksista, löytääkö se laitteita.</translation>
+    </message>
+    <message id="kiv-bluetooth-instructions">
+        <source>Put a device nearby that can be found, such as a headset that is being paired.</source>
+        <translation>Aseta lähelle laite, joka voidaan löytää, kuten pariliitostilassa oleva kuuloke.</translation>
+    </message>
+    <message id="kiv-bluetooth-hint">
+        <source>Pass unlocks when the address is in order and the radio has searched.</source>
+        <translation>Hyväksyminen avautuu, kun osoite on kunnossa ja radio on etsinyt.</translation>
+    </message>
+    <message id="kiv-bluetooth-missing">
+        <source>This phone has no Bluetooth.</source>
+        <translation>Tässä puhelimessa ei ole Bluetoothia.</translation>
+    </message>
+    <message id="kiv-radio-blind">
+        <source>This phone&apos;s system does not tell anything about the radio.</source>
+        <translation>Tämän puhelimen järjestelmä ei kerro mitään radiosta.</translation>
+    </message>
+    <message id="kiv-bluetooth-nobody">
+        <source>The radio searched, but no device answered.</source>
+        <translation>Radio etsi, mutta mikään laite ei vastannut.</translation>
+    </message>
+    <message id="kiv-bluetooth-again">
+        <source>Search again</source>
+        <translation>Etsi uudelleen</translation>
+    </message>
+    <message id="kiv-bluetooth-searching">
+        <source>Searching</source>
+        <translation>Etsii</translation>
+    </message>
+    <message id="kiv-radio-found">
+        <source>Radio found</source>
+        <translation>Radio löytyi</translation>
+    </message>
+    <message id="kiv-bluetooth-devices">
+        <source>Devices found</source>
+        <translation>Löydettyjä laitteita</translation>
+    </message>
+    <message id="kiv-gps-status-error">
+        <source>in trouble or not there</source>
+        <translation>häiriössä tai poissa</translation>
+    </message>
+    <message id="kiv-gps-status-unavailable">
+        <source>cannot position</source>
+        <translation>ei voi paikantaa</translation>
+    </message>
+    <message id="kiv-gps-status-acquiring">
+        <source>looking for the position</source>
+        <translation>etsii sijaintia</translation>
+    </message>
+    <message id="kiv-gps-status-available">
+        <source>knows the position</source>
+        <translation>tietää sijainnin</translation>
+    </message>
+    <message id="kiv-gps-status-unknown">
+        <source>unknown (%1)</source>
+        <extracomment>The service reports a state that has no name</extracomment>
+        <translation>tuntematon (%1)</translation>
+    </message>
+    <message id="kiv-gps-good">
+        <source>A satellite was in use after %1 s.</source>
+        <translation>Satelliitti oli käytössä %1 s kuluttua.</translation>
+    </message>
+    <message id="kiv-gps-instructions">
+        <source>Go outdoors or to a window. The first satellite may take some minutes.</source>
+        <translation>Mene ulos tai ikkunan ääreen. Ensimmäiseen satelliittiin voi kulua minuutteja.</translation>
+    </message>
+    <message id="kiv-gps-hint-position">
+        <source>Pass unlocks when the positioning service knows the position.</source>
+        <translation>Hyväksyminen avautuu, kun paikannuspalvelu tietää sijainnin.</translation>
+    </message>
+    <message id="kiv-gps-hint">
+        <source>Pass unlocks when a satellite is in use.</source>
+        <translation>Hyväksyminen avautuu, kun satelliitti on käytössä.</translation>
+    </message>
+    <message id="kiv-gps-missing">
+        <source>This phone has no satellite receiver.</source>
+        <translation>Tässä puhelimessa ei ole satelliittivastaanotinta.</translation>
+    </message>
+    <message id="kiv-gps-no-source">
+        <source>The system offers no view of the satellites, only the state of the positioning service.</source>
+        <translation>Järjestelmä ei näytä satelliitteja, vain paikannuspalvelun tilan.</translation>
+    </message>
+    <message id="kiv-gps-error">
+        <source>The positioning service is in trouble or does not answer.</source>
+        <translation>Paikannuspalvelussa on häiriö tai se ei vastaa.</translation>
+    </message>
+    <message id="kiv-gps-unavailable">
+        <source>The positioning service cannot position. Is positioning switched on in the phone&apos;s settings?</source>
+        <translation>Paikannuspalvelu ei voi paikantaa. Onko paikannus päällä puhelimen asetuksissa?</translation>
+    </message>
+    <message id="kiv-gps-source-error">
+        <source>The receiver reports an error.</source>
+        <translation>Vastaanotin ilmoittaa virheestä.</translation>
+    </message>
+    <message id="kiv-gps-silent">
+        <source>The receiver has not reported for %1 s.</source>
+        <translation>Vastaanotin ei ole ilmoittanut mitään %1 sekuntiin.</translation>
+    </message>
+    <message id="kiv-gps-legend">
+        <source>in use for the position</source>
+        <translation>käytössä sijaintia varten</translation>
+    </message>
+    <message id="kiv-gps-status">
+        <source>Positioning service</source>
+        <translation>Paikannuspalvelu</translation>
+    </message>
+    <message id="kiv-gps-in-view">
+        <source>Satellites in view</source>
+        <translation>Satelliitteja näkyvissä</translation>
+    </message>
+    <message id="kiv-gps-in-use">
+        <source>Satellites in use</source>
+        <translation>Satelliitteja käytössä</translation>
+    </message>
+    <message id="kiv-gps-first-seen">
+        <source>First satellite in view after</source>
+        <translation>Ensimmäinen satelliitti näkyi</translation>
+    </message>
+    <message id="kiv-gps-first-used">
+        <source>First satellite in use after</source>
+        <translation>Ensimmäinen satelliitti käytössä</translation>
+    </message>
+    <message id="kiv-sim-working">
+        <source>Asking the telephony service</source>
+        <translation>Kysytään puhelupalvelulta</translation>
+    </message>
+    <message id="kiv-sim-silent">
+        <source>The telephony service reports no modem, or does not answer.</source>
+        <translation>Puhelupalvelu ei ilmoita modeemia tai ei vastaa.</translation>
+    </message>
+    <message id="kiv-sim-good">
+        <source>Every SIM card could be read.</source>
+        <translation>Jokainen SIM-kortti oli luettavissa.</translation>
+    </message>
+    <message id="kiv-sim-instructions-blind">
+        <source>See in the phone&apos;s settings whether it knows its SIM card.</source>
+        <translation>Katso puhelimen asetuksista, tunteeko se SIM-korttinsa.</translation>
+    </message>
+    <message id="kiv-sim-instructions">
+        <source>Every SIM slot needs a card. One that is locked has to be unlocked first.</source>
+        <translation>Jokaiseen SIM-paikkaan tarvitaan kortti. Lukittu kortti on ensin avattava.</translation>
+    </message>
+    <message id="kiv-sim-hint">
+        <source>Pass unlocks when a SIM card has been read.</source>
+        <translation>Hyväksyminen avautuu, kun SIM-kortti on luettu.</translation>
+    </message>
+    <message id="kiv-sim-missing">
+        <source>This phone has no modem.</source>
+        <translation>Tässä puhelimessa ei ole modeemia.</translation>
+    </message>
+    <message id="kiv-sim-cardless">
+        <source>A SIM card is not there, is locked or cannot be read. Look after it, then ask again.</source>
+        <translation>SIM-kortti puuttuu, on lukittu tai lukukelvoton. Tarkista se ja kysy sitten uudelleen.</translation>
+    </message>
+    <message id="kiv-sim-again">
+        <source>Ask again</source>
+        <translation>Kysy uudelleen</translation>
+    </message>
+    <message id="kiv-sim-card">
+        <source>SIM card read</source>
+        <translation>SIM-kortti luettu</translation>
+    </message>
+    <message id="kiv-sim-card-number">
+        <source>SIM card %1 read</source>
+        <translation>SIM-kortti %1 luettu</translation>
+    </message>
+    <message id="kiv-sim-home">
+        <source>Network of the card</source>
+        <extracomment>The country and the network, both as numbers, that a SIM card belongs to</extracomment>
+        <translation>Kortin verkko</translation>
+    </message>
+    <message id="kiv-sim-state">
+        <source>Mobile network</source>
+        <translation>Matkapuhelinverkko</translation>
+    </message>
+    <message id="kiv-network-name">
+        <source>Network</source>
+        <translation>Verkko</translation>
+    </message>
+    <message id="kiv-network-strength">
+        <source>Signal strength</source>
+        <translation>Signaalin voimakkuus</translation>
+    </message>
+    <message id="kiv-sim-cards">
+        <source>SIM cards read</source>
+        <translation>Modeemeja</translation>
+    </message>
+    <message id="kiv-usb-otg-good">
+        <source>A drive was seen to come and go.</source>
+        <translation>Asema havaittiin kytketyksi ja irrotetuksi.</translation>
+    </message>
+    <message id="kiv-usb-otg-hint">
+        <source>Pass unlocks when a drive was seen to come and go.</source>
+        <translation>Hyväksyminen avautuu, kun asema on kytketty ja irrotettu.</translation>
+    </message>
+    <message id="kiv-usb-otg-missing">
+        <source>This phone cannot take USB devices.</source>
+        <translation>Tähän puhelimeen ei voi liittää USB-laitteita.</translation>
+    </message>
+    <message id="kiv-usb-otg-step-plug">
+        <source>Plug a USB drive in, with the adapter. If one is in already, pull it out first</source>
+        <translation>Kytke USB-asema sovittimella. Jos asema on jo kytkettynä, irrota se ensin</translation>
+    </message>
+    <message id="kiv-usb-otg-step-pull">
+        <source>Pull it out</source>
+        <translation>Irrota se</translation>
+    </message>
+    <message id="kiv-usb-otg-late-gone">
+        <source>The system has not announced that the drive is gone.</source>
+        <translation>Järjestelmä ei ole ilmoittanut aseman irrottamisesta.</translation>
+    </message>
+    <message id="kiv-usb-otg-late">
+        <source>The system has not announced any drive.</source>
+        <translation>Järjestelmä ei ole ilmoittanut asemaa.</translation>
+    </message>
+    <message id="kiv-usb-otg-late-advice">
+        <source>If it should have: try another drive and adapter, then choose Fail.</source>
+        <translation>Jos sen olisi pitänyt: kokeile toista asemaa ja sovitinta ja valitse sitten Hylkää.</translation>
+    </message>
+    <message id="kiv-usb-otg-drive">
+        <source>USB drive</source>
+        <translation>USB-asema</translation>
+    </message>
+    <message id="kiv-usb-otg-there">
+        <source>plugged in</source>
+        <translation>kytketty</translation>
+    </message>
+    <message id="kiv-usb-otg-none">
+        <source>none seen</source>
+        <translation>ei havaittu</translation>
+    </message>
+    <message id="kiv-wifi-good">
+        <source>The address is in order, and the radio is connected to a network.</source>
+        <translation>Osoite on kunnossa, ja radio on yhteydessä verkkoon.</translation>
+    </message>
+    <message id="kiv-wifi-instructions-blind">
+        <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds networks.</source>
+        <translation>Osoitetta verrataan kaavaansa. Katso sitten puhelimen asetuksista, löytääkö se verkkoja.</translation>
+    </message>
+    <message id="kiv-wifi-instructions">
+        <source>Switch Wi-Fi on and connect the phone to a network: the test passes by itself.</source>
+        <translation>Kytke Wi-Fi päälle ja yhdistä puhelin verkkoon: testi hyväksytään itsestään.</translation>
+    </message>
+    <message id="kiv-wifi-hint">
+        <source>Pass unlocks when the address is in order and the radio was found.</source>
+        <translation>Hyväksyminen avautuu, kun osoite on kunnossa ja radio löytyi.</translation>
+    </message>
+    <message id="kiv-wifi-missing">
+        <source>This phone has no Wi-Fi.</source>
+        <translation>Tässä puhelimessa ei ole Wi-Fiä.</translation>
+    </message>
+    <message id="kiv-wifi-unconnected">
+        <source>The radio is there, but not connected. Without a network in reach, judge by the networks that the settings list.</source>
+        <translation>Radio on olemassa, mutta ei yhdistetty. Jos verkkoa ei ole lähellä, päätä asetusten luettelemien verkkojen perusteella.</translation>
+    </message>
+    <message id="kiv-wifi-connection">
+        <source>Connection</source>
+        <translation>Yhteys</translation>
+    </message>
+    <message id="kiv-zel-good">
+        <source>The cover was seen to come and go. Its identifier: %1</source>
+        <translation>Kansi havaittiin kiinnitetyksi ja irrotetuksi. Sen tunnus: %1</translation>
+    </message>
+    <message id="kiv-zel-nameless">
+        <source>The cover was seen to come and go, but it did not tell its identifier.</source>
+        <translation>Kansi havaittiin kiinnitetyksi ja irrotetuksi, mutta se ei kertonut tunnustaan.</translation>
+    </message>
+    <message id="kiv-zel-hint">
+        <source>Pass unlocks when a cover was seen to come and go.</source>
+        <translation>Hyväksyminen avautuu, kun kansi on kiinnitetty ja irrotettu.</translation>
+    </message>
+    <message id="kiv-zel-missing">
+        <source>This phone has no smart-cover service.</source>
+        <translation>Tässä puhelimessa ei ole älykansipalvelua.</translation>
+    </message>
+    <message id="kiv-zel-lost">
+        <source>The smart-cover service does not answer.</source>
+        <translation>Älykansipalvelu ei vastaa.</translation>
+    </message>
+    <message id="kiv-zel-not-ready">
+        <source>The smart-cover service is not ready to recognise covers yet.</source>
+        <translation>Älykansipalvelu ei ole vielä valmis tunnistamaan kansia.</translation>
+    </message>
+    <message id="kiv-zel-step-dock">
+        <source>Put a smart cover on the phone</source>
+        <translation>Kiinnitä älykansi puhelimeen</translation>
+    </message>
+    <message id="kiv-zel-step-remove">
+        <source>Take it off again</source>
+        <translation>Irrota se</translation>
+    </message>
+    <message id="kiv-zel-service">
+        <source>Smart-cover service</source>
+        <translation>Älykansipalvelu</translation>
+    </message>
+    <message id="kiv-zel-ready">
+        <source>Ready for covers</source>
+        <translation>Valmis kansille</translation>
+    </message>
+    <message id="kiv-zel-docked">
+        <source>Cover on the phone</source>
+        <translation>Kansi puhelimessa</translation>
+    </message>
+    <message id="kiv-zel-identifier">
+        <source>Identifier of the cover</source>
+        <translation>Kannen tunnus</translation>
+    </message>
+    <message id="kiv-sim-modem-count">
+        <source>Modems</source>
+        <translation>Modeemeja</translation>
+    </message>
     <message id="kiv-challenge-mistake">
         <source>Shown: %1, answered: %2</source>
         <extracomment>A wrong answer: what was shown and what the operator said</extracomment>

@@ -1354,6 +1354,467 @@
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-gps-satellite">
+        <source>Satellite %1, %2 dB</source>
+        <extracomment>A satellite: its number, its strength in decibels</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-used">
+        <source>in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-more">
+        <source>Weaker ones that are not shown: %1</source>
+        <extracomment>How many satellites have no bar</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-sky">
+        <source>Places of the satellites in the sky</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-north">
+        <source>N</source>
+        <extracomment>North, one or two letters</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-east">
+        <source>E</source>
+        <extracomment>East, one or two letters</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-south">
+        <source>S</source>
+        <extracomment>South, one or two letters</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-west">
+        <source>W</source>
+        <extracomment>West, one or two letters</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-test-radios">
+        <source>Radio switches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-off">
+        <source>Bluetooth is switched off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-no-radio">
+        <source>No Bluetooth radio was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-no-service">
+        <source>The Bluetooth service is in trouble or not there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-none">
+        <source>no network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-emergency">
+        <source>emergency calls only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-searching">
+        <source>searching</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-busy">
+        <source>busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-denied">
+        <source>refused by the network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-home">
+        <source>connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-roaming">
+        <source>connected, roaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-switch-on">
+        <source>on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-switch-off">
+        <source>off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radios-instructions">
+        <source>Compare these with the phone&apos;s settings. A switch that is moved there moves here, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radios-hint">
+        <source>Pass unlocks when the mode-control service has answered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radios-lost">
+        <source>The mode-control service does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radios-service">
+        <source>Mode-control service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-service-answers">
+        <source>answers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-service-silent">
+        <source>does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radios-nfc">
+        <source>NFC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radios-fm-transmitter">
+        <source>FM transmitter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radios-4g">
+        <source>4G preferred by the modem settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-duration">
+        <source>%1 h %2 min %3 s</source>
+        <extracomment>A duration: hours, minutes, seconds</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-up">
+        <source>Switched on for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-system-asleep">
+        <source>Asleep meanwhile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-working">
+        <source>Asking for the Bluetooth radio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-good">
+        <source>The address is in order, and the radio found a device: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-instructions-blind">
+        <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds devices.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-instructions">
+        <source>Put a device nearby that can be found, such as a headset that is being paired.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-hint">
+        <source>Pass unlocks when the address is in order and the radio has searched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-missing">
+        <source>This phone has no Bluetooth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radio-blind">
+        <source>This phone&apos;s system does not tell anything about the radio.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-nobody">
+        <source>The radio searched, but no device answered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-again">
+        <source>Search again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-searching">
+        <source>Searching</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-radio-found">
+        <source>Radio found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-devices">
+        <source>Devices found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-status-error">
+        <source>in trouble or not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-status-unavailable">
+        <source>cannot position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-status-acquiring">
+        <source>looking for the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-status-available">
+        <source>knows the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-status-unknown">
+        <source>unknown (%1)</source>
+        <extracomment>The service reports a state that has no name</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-good">
+        <source>A satellite was in use after %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-instructions">
+        <source>Go outdoors or to a window. The first satellite may take some minutes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-hint-position">
+        <source>Pass unlocks when the positioning service knows the position.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-hint">
+        <source>Pass unlocks when a satellite is in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-missing">
+        <source>This phone has no satellite receiver.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-no-source">
+        <source>The system offers no view of the satellites, only the state of the positioning service.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-error">
+        <source>The positioning service is in trouble or does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-unavailable">
+        <source>The positioning service cannot position. Is positioning switched on in the phone&apos;s settings?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-source-error">
+        <source>The receiver reports an error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-silent">
+        <source>The receiver has not reported for %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-legend">
+        <source>in use for the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-status">
+        <source>Positioning service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-in-view">
+        <source>Satellites in view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-in-use">
+        <source>Satellites in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-first-seen">
+        <source>First satellite in view after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-gps-first-used">
+        <source>First satellite in use after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-working">
+        <source>Asking the telephony service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-silent">
+        <source>The telephony service reports no modem, or does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-good">
+        <source>Every SIM card could be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-instructions-blind">
+        <source>See in the phone&apos;s settings whether it knows its SIM card.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-instructions">
+        <source>Every SIM slot needs a card. One that is locked has to be unlocked first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-hint">
+        <source>Pass unlocks when a SIM card has been read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-missing">
+        <source>This phone has no modem.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-cardless">
+        <source>A SIM card is not there, is locked or cannot be read. Look after it, then ask again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-again">
+        <source>Ask again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-card">
+        <source>SIM card read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-card-number">
+        <source>SIM card %1 read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-home">
+        <source>Network of the card</source>
+        <extracomment>The country and the network, both as numbers, that a SIM card belongs to</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-state">
+        <source>Mobile network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-name">
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-network-strength">
+        <source>Signal strength</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-cards">
+        <source>SIM cards read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-good">
+        <source>A drive was seen to come and go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-hint">
+        <source>Pass unlocks when a drive was seen to come and go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-missing">
+        <source>This phone cannot take USB devices.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-step-plug">
+        <source>Plug a USB drive in, with the adapter. If one is in already, pull it out first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-step-pull">
+        <source>Pull it out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-late-gone">
+        <source>The system has not announced that the drive is gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-late">
+        <source>The system has not announced any drive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-late-advice">
+        <source>If it should have: try another drive and adapter, then choose Fail.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-drive">
+        <source>USB drive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-there">
+        <source>plugged in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-usb-otg-none">
+        <source>none seen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-good">
+        <source>The address is in order, and the radio is connected to a network.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-instructions-blind">
+        <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds networks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-instructions">
+        <source>Switch Wi-Fi on and connect the phone to a network: the test passes by itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-hint">
+        <source>Pass unlocks when the address is in order and the radio was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-missing">
+        <source>This phone has no Wi-Fi.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-unconnected">
+        <source>The radio is there, but not connected. Without a network in reach, judge by the networks that the settings list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-connection">
+        <source>Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-good">
+        <source>The cover was seen to come and go. Its identifier: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-nameless">
+        <source>The cover was seen to come and go, but it did not tell its identifier.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-hint">
+        <source>Pass unlocks when a cover was seen to come and go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-missing">
+        <source>This phone has no smart-cover service.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-lost">
+        <source>The smart-cover service does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-not-ready">
+        <source>The smart-cover service is not ready to recognise covers yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-step-dock">
+        <source>Put a smart cover on the phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-step-remove">
+        <source>Take it off again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-service">
+        <source>Smart-cover service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-ready">
+        <source>Ready for covers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-docked">
+        <source>Cover on the phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-zel-identifier">
+        <source>Identifier of the cover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sim-modem-count">
+        <source>Modems</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message id="kiv-challenge-mistake">
         <source>Shown: %1, answered: %2</source>
         <extracomment>A wrong answer: what was shown and what the operator said</extracomment>

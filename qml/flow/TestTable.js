@@ -74,16 +74,16 @@ var rows = [
     { name: "VerificationBackCamera", title: QT_TRID_NOOP("kiv-test-back-camera"), needs: ["BackCamera"], page: "",
       glyph: "camera", kind: "guided", seconds: 20, timeout: 80, alone: true, runIn: 2 },
     //% "Wi-Fi"
-    { name: "VerificationWifi", title: QT_TRID_NOOP("kiv-test-wifi"), needs: ["Wifi"], page: "",
+    { name: "VerificationWifi", title: QT_TRID_NOOP("kiv-test-wifi"), needs: ["Wifi"], page: "VerificationWifi.qml",
       glyph: "radio", kind: "measured", seconds: 20, timeout: 80, alone: true },
     //% "Bluetooth"
-    { name: "VerificationBluetooth", title: QT_TRID_NOOP("kiv-test-bluetooth"), needs: ["Bluetooth"], page: "",
+    { name: "VerificationBluetooth", title: QT_TRID_NOOP("kiv-test-bluetooth"), needs: ["Bluetooth"], page: "VerificationBluetooth.qml",
       glyph: "bluetooth", kind: "measured", seconds: 20, timeout: 80, alone: true },
     //% "Smart cover"
-    { name: "VerificationZel", title: QT_TRID_NOOP("kiv-test-zel"), needs: ["ZEL"], page: "",
+    { name: "VerificationZel", title: QT_TRID_NOOP("kiv-test-zel"), needs: ["ZEL"], page: "VerificationZel.qml",
       glyph: "cover", kind: "measured", seconds: 30, timeout: 120 },
     //% "Satellite positioning"
-    { name: "VerificationGpsRadio", title: QT_TRID_NOOP("kiv-test-gps"), needs: ["GPS"], page: "",
+    { name: "VerificationGpsRadio", title: QT_TRID_NOOP("kiv-test-gps"), needs: ["GPS"], page: "VerificationGpsRadio.qml",
       glyph: "gps", kind: "measured", seconds: 90, timeout: 360 },
     //% "FM radio"
     { name: "VerificationFmRadio", title: QT_TRID_NOOP("kiv-test-fm-radio"), needs: ["FmRadio"], page: "VerificationFmRadio.qml",
@@ -104,7 +104,7 @@ var rows = [
     { name: "VerificationVibrator", title: QT_TRID_NOOP("kiv-test-vibrator"), needs: ["Vibrator"], page: "VerificationVibrator.qml",
       glyph: "vibrator", kind: "guided", seconds: 15, timeout: 60, alone: true },
     //% "SIM card"
-    { name: "VerificationSim", title: QT_TRID_NOOP("kiv-test-sim"), needs: ["SIM"], page: "",
+    { name: "VerificationSim", title: QT_TRID_NOOP("kiv-test-sim"), needs: ["SIM"], page: "VerificationSim.qml",
       glyph: "sim", kind: "measured", seconds: 20, timeout: 80, alone: true },
     //% "Memory card"
     { name: "VerificationSdCard", title: QT_TRID_NOOP("kiv-test-sd-card"), needs: ["SDCard"], page: "VerificationSdCard.qml",
@@ -113,7 +113,7 @@ var rows = [
     { name: "VerificationKey", title: QT_TRID_NOOP("kiv-test-key"), needs: ["Key"], page: "VerificationKey.qml",
       glyph: "key", kind: "measured", seconds: 15, timeout: 60 },
     //% "USB host"
-    { name: "VerificationUsbOtg", title: QT_TRID_NOOP("kiv-test-usb-otg"), needs: ["UsbOtg"], page: "",
+    { name: "VerificationUsbOtg", title: QT_TRID_NOOP("kiv-test-usb-otg"), needs: ["UsbOtg"], page: "VerificationUsbOtg.qml",
       glyph: "usb", kind: "measured", seconds: 30, timeout: 120 },
     //% "Video playback"
     { name: "VerificationVideoPlayback", title: QT_TRID_NOOP("kiv-test-video"), needs: ["VideoPlayback"], page: "",
@@ -136,6 +136,9 @@ var rows = [
     //% "Network addresses"
     { name: "MacAddresses", title: QT_TRID_NOOP("kiv-test-mac-addresses"), needs: ["MacAddresses"], page: "MacAddresses.qml",
       glyph: "address", kind: "measured", seconds: 5, timeout: 60, alone: true },
+    //% "Radio switches"
+    { name: "RadioSwitches", title: QT_TRID_NOOP("kiv-test-radios"), needs: [], page: "RadioSwitches.qml",
+      glyph: "radio", kind: "guided", seconds: 20, timeout: 80 },
     //% "Calibration record"
     { name: "Calibration", title: QT_TRID_NOOP("kiv-test-calibration"), needs: [], page: "Calibration.qml",
       glyph: "calibration", kind: "measured", seconds: 5, timeout: 60, alone: true },

@@ -15,21 +15,78 @@ TestPage {
         quarter.value = uptime.loadAverage15;
     }
 
+    // The service counts in milliseconds.
+    function duration(milliseconds) {
+        if (!(milliseconds >= 0))
+            return undefined;
+        var seconds = Math.floor(milliseconds / 1000);
+        //: A duration: hours, minutes, seconds
+        //% "%1 h %2 min %3 s"
+        return qsTrId("kiv-system-duration").arg(Math.floor(seconds / 3600)).arg(Math.floor(seconds / 60) % 60)
+                                            .arg(seconds % 60);
+    }
+
     //% "What the system is busy with. The list of processes appears after five seconds."
     instructions: qsTrId("kiv-system-instructions")
-    measurements: [start, minute, fiveMinutes, quarter]
+    measurements: [start, up, asleep, minute, fiveMinutes, quarter]
 
-    onOpened: follow()
+    onOpened: {
+        follow();
+        patience.start();
+    }
+    onClosing: patience.stop()
 
     Uptime {
         id: uptime
         onLoadAverageChanged: page.follow()
+    }
+    Mce {
+        id: mode
+        // The second of the two that each answer changes.
+        onSuspendChanged: {
+            up.value = page.duration(mode.uptime);
+            asleep.value = page.duration(mode.suspend);
+            patience.interval = patience.afterAnswer;
+            if (page.isOpen)
+                patience.restart();
+        }
+    }
+    // The service is asked once a minute. Times of one that has stopped answering are no reading any more.
+    Timer {
+        id: patience
+        readonly property int afterAnswer: 70000
+        property bool expired: false
+        interval: 5000
+        onTriggered: {
+            expired = true;
+            up.value = undefined;
+            asleep.value = undefined;
+        }
+        onRunningChanged: if (running) expired = false
+    }
+
+    Notice {
+        objectName: "lost"
+        width: parent.width
+        visible: patience.expired
+        kind: "near"
+        text: qsTrId("kiv-radios-lost")
     }
 
     Measurement {
         id: start
         //% "Running since"
         name: qsTrId("kiv-system-start")
+    }
+    Measurement {
+        id: up
+        //% "Switched on for"
+        name: qsTrId("kiv-system-up")
+    }
+    Measurement {
+        id: asleep
+        //% "Asleep meanwhile"
+        name: qsTrId("kiv-system-asleep")
     }
     Measurement {
         id: minute

@@ -10,6 +10,7 @@ import time
 
 import dbus
 import dbusmock
+from gi.repository import GLib
 
 BUS_NAME = 'org.freedesktop.Geoclue.Providers.Hybris'
 MAIN_OBJ = '/org/freedesktop/Geoclue/Providers/Hybris'
@@ -30,6 +31,8 @@ def load(mock, parameters):
         mock.satellites[identifier] = rest
         if text.endswith(':used'):
             mock.used.add(identifier)
+    # A receiver reports once a second, whether anything has changed or not.
+    GLib.timeout_add_seconds(1, lambda: announce(mock) or True)
 
 
 def report(mock):

@@ -31,3 +31,8 @@ int registerFakeTypes()
         "Kiv", 1, 0, "FactoryUtils", [](QQmlEngine *, QJSEngine *) -> QObject * { return new FactoryUtils(nullptr); });
     return phone;
 }
+
+void addFakeModules(QQmlEngine *engine)
+{
+    engine->addImportPath(QStringLiteral(KIV_FAKE_MODULES));
+}

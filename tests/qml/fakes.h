@@ -8,4 +8,9 @@
  */
 int registerFakeTypes();
 
+class QQmlEngine;
+
+/*! Lets the engine find pretended modules of Qt's instead of this machine's. They ask the singleton Phone, too. */
+void addFakeModules(QQmlEngine *engine);
+
 #endif

@@ -85,9 +85,11 @@ int main(int argc, char **argv)
     QObject::connect(view.engine(), &QQmlEngine::quit, &application, &QCoreApplication::quit);
     view.setInitialProperties({{QStringLiteral("startPage"), parser.value(QStringLiteral("page"))},
                                {QStringLiteral("dark"), parser.isSet(QStringLiteral("dark"))}});
-    if (phone >= 0)
+    if (phone >= 0) {
+        addFakeModules(view.engine());
         view.rootContext()->setContextProperty(QStringLiteral("phone"),
                                                view.engine()->singletonInstance<QObject *>(phone));
+    }
     view.setSource(QUrl::fromLocalFile(share + QStringLiteral("/kiv/main.qml")));
     view.show();
     if (parser.isSet(QStringLiteral("run"))) {

@@ -24,6 +24,7 @@ public Q_SLOTS:
 
     void qmlEngineAvailable(QQmlEngine *engine)
     {
+        addFakeModules(engine);
         engine->rootContext()->setContextProperty(QStringLiteral("disclaimerText"), QStringLiteral("Take care."));
     }
 

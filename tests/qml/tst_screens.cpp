@@ -210,6 +210,7 @@ void tst_Screens::looksRight()
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.resize(size);
     view.rootContext()->setContextProperty(QStringLiteral("disclaimerText"), QStringLiteral("Take care."));
+    addFakeModules(view.engine());
     view.setInitialProperties({{QStringLiteral("startPage"), QStringLiteral("home")}});
     view.setSource(QUrl::fromLocalFile(Pages + QStringLiteral("/main.qml")));
     QCOMPARE(view.status(), QQuickView::Ready);

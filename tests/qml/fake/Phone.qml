@@ -48,6 +48,25 @@ QtObject {
     property var streams: [{ mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%", corked: false,
                              muted: true }]
 
+    property string coverService: "answers"
+    property bool coverReady: true
+    property bool coverDocked: false
+    property string coverId: ""
+    property int gpsStatus: 2
+    property bool gpsSource: true
+    property bool gpsError: false
+    property var satellites: []
+    property bool drive: false
+    property bool modeControl: true
+    property var deviceTimes: [93784000, 61200000]
+    property bool nfc: true
+    property bool fmTransmitter: false
+    property var wireless: []
+    property var modems: []
+    property int modemCount: 1
+    property int bluetoothError: 0
+    property var bluetoothDevices: []
+
     /*! What the pages did to the phone, in order. */
     property var log: []
 
@@ -91,11 +110,24 @@ QtObject {
         sinkPort = "output-before";
         sourceName = "source.builtin";
         offersRadio = true;
+        coverService = "answers";
+        coverReady = true;
+        coverDocked = false;
+        coverId = "";
+        gpsStatus = 2;
+        gpsSource = true;
+        gpsError = false;
+        satellites = [satellite(2, 61, 112, 41, false), satellite(5, 35, 48, 33, false), satellite(25, 9, 289, 19, false)];
+        drive = false;
         modeControl = true;
         deviceTimes = [93784000, 61200000];
         nfc = true;
         fmTransmitter = false;
+        wireless = [{ status: 1, name: "", strength: -1 }];
+        modems = [modem("fake.tel")];
         modemCount = 1;
+        bluetoothError = 0;
+        bluetoothDevices = [];
         log = [];
     }
 
@@ -116,6 +148,22 @@ QtObject {
         rotation = [0, 0, 0];
         rotationGood = false;
         calibrated = [];
+        coverService = "refuses";
+        gpsStatus = 0;
+        gpsSource = false;
+        satellites = [];
+        modeControl = false;
+        wireless = [];
+        modems = [];
+        bluetoothError = 4;
+    }
+
+    function satellite(identifier, elevation, azimuth, strength, inUse) {
+        return { identifier: identifier, elevation: elevation, azimuth: azimuth, strength: strength, inUse: inUse };
+    }
+
+    function modem(network) {
+        return { status: 6, name: network, strength: 80, imsi: "310150000000000", home: ["310", "150"] };
     }
 
     function goodBattery() {

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import Kiv 1.0
+import "../controls"
+
+/*! The address is compared with its pattern, and the radio proves itself by a device that it finds. */
+TestPage {
+    id: page
+
+    readonly property var search: module.item
+    readonly property bool blind: module.status === Loader.Error
+    /*! The radio searched without an error. */
+    property bool searched: false
+    property var found: []
+
+    function begin() {
+        searched = false;
+        found = [];
+        //% "Asking for the Bluetooth radio"
+        blocking(qsTrId("kiv-bluetooth-working"), function() {
+            // Anew: a search that is over keeps its error.
+            module.active = false;
+            module.active = true;
+            if (blind) {
+                if (!address.good)
+                    judgeReadings("");
+                return;
+            }
+            search.running = true;
+            follow();
+        });
+    }
+
+    function follow() {
+        if (!isOpen || search === null || verdict !== "")
+            return;
+        radio.value = search.trouble === "" || search.off;
+        if (search.trouble === "")
+            searched = searched || !search.running;
+        if (!address.good)
+            judgeReadings("");
+        // One that is only switched off can be switched on.
+        else if (!radio.value)
+            judge(FactoryUtils.Fail, search.trouble);
+        else if (found.length > 0)
+            //% "The address is in order, and the radio found a device: %1"
+            judgeReadings(qsTrId("kiv-bluetooth-good").arg(found[0]));
+    }
+
+    function add(device) {
+        if (found.indexOf(device) < 0)
+            found = found.concat([device]);
+        follow();
+    }
+
+    instructions: blind
+                  //% "The address is compared with its pattern. Then see in the phone's settings whether it finds devices."
+                  ? qsTrId("kiv-bluetooth-instructions-blind")
+                  //% "Put a device nearby that can be found, such as a headset that is being paired."
+                  : qsTrId("kiv-bluetooth-instructions")
+    measurements: missing !== "" ? [] : blind ? [address] : [address, radio, devices]
+    // Where no device is in reach, the operator says how it is.
+    evidence: address.good && (blind || searched)
+    //% "Pass unlocks when the address is in order and the radio has searched."
+    evidenceHint: qsTrId("kiv-bluetooth-hint")
+
+    onOpened: {
+        //% "This phone has no Bluetooth."
+        missing = Features.supported("Bluetooth", row.name) ? "" : qsTrId("kiv-bluetooth-missing");
+        if (missing !== "")
+            return;
+        address.value = validator.getMac("bluetooth");
+        address.meets = validator.isMacValid("bluetooth");
+        address.criteria = qsTrId("kiv-mac-criteria").arg(validator.getMacCriteria("bluetooth"));
+        begin();
+    }
+    onClosing: {
+        if (search !== null)
+            search.running = false;
+        module.active = false;
+    }
+
+    MacValidator {
+        id: validator
+    }
+    Loader {
+        id: module
+        active: false
+        visible: false
+        source: "BluetoothSearch.qml"
+    }
+    Connections {
+        target: page.search
+        function onErrorChanged() { page.follow(); }
+        function onRunningChanged() { page.follow(); }
+        function onDeviceDiscovered(device) { page.add(device); }
+    }
+
+    Notice {
+        objectName: "blind"
+        width: parent.width
+        visible: page.blind
+        kind: "near"
+        text: qsTrId("kiv-radio-blind")
+    }
+    Notice {
+        objectName: "trouble"
+        width: parent.width
+        visible: text !== "" && page.verdict === ""
+        kind: "near"
+        text: page.search === null ? "" : page.search.trouble
+    }
+    Notice {
+        objectName: "nobody"
+        width: parent.width
+        visible: page.searched && page.found.length === 0 && page.verdict === "" && !page.search.running
+        kind: "info"
+        //% "The radio searched, but no device answered."
+        text: qsTrId("kiv-bluetooth-nobody")
+    }
+    PushButton {
+        objectName: "search"
+        width: parent.width
+        visible: page.search !== null && page.verdict === ""
+        enabled: page.isOpen && page.search !== null && !page.search.running
+        glyph: "retry"
+        text: enabled
+              //% "Search again"
+              ? qsTrId("kiv-bluetooth-again")
+              //% "Searching"
+              : qsTrId("kiv-bluetooth-searching")
+        onClicked: page.begin()
+    }
+    Measurement {
+        id: address
+        name: qsTrId("kiv-mac-bluetooth")
+    }
+    Measurement {
+        id: radio
+        name: qsTrId("kiv-radio-found")
+        accepted: [true]
+        settled: value !== undefined
+    }
+    Measurement {
+        id: devices
+        //% "Devices found"
+        name: qsTrId("kiv-bluetooth-devices")
+        value: page.search === null ? undefined : page.found.length
+    }
+}
