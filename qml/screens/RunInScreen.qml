@@ -185,9 +185,21 @@ Item {
             Repeater {
                 model: runIn.rows
 
-                Words {
+                Row {
                     width: parent.width
-                    text: "• " + qsTrId(modelData.title)
+                    spacing: Theme.gap
+
+                    Icon {
+                        id: glyph
+                        name: modelData.glyph
+                        color: Theme.accent
+                        anchors.verticalCenter: parent.verticalCenter
+                    }
+                    Words {
+                        width: parent.width - glyph.width - parent.spacing
+                        text: qsTrId(modelData.title)
+                        anchors.verticalCenter: parent.verticalCenter
+                    }
                 }
             }
             Notice {

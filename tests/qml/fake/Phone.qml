@@ -57,13 +57,8 @@ QtObject {
     property bool gpsError: false
     property var satellites: []
     property bool drive: false
-    property bool modeControl: true
-    property var deviceTimes: [93784000, 61200000]
-    property bool nfc: true
-    property bool fmTransmitter: false
     property var wireless: []
     property var modems: []
-    property int modemCount: 1
     property int bluetoothError: 0
     property var bluetoothDevices: []
 

@@ -395,6 +395,7 @@ Driver {
         Phone.hall = false;
         verdictIs(FactoryUtils.Pass);
         tap("fail");
+        answer("perceived");
         compare(Phone.log, ["openFile", "closeFile"]);
     }
 
@@ -540,7 +541,8 @@ Driver {
     function test_pagesWhoseSensorIsAbsent(data) {
         openTest(data.tag);
         missingIs(data.sentence);
-        tap("na");
+        tap("skip");
+        answer("not-fitted");
         compare(kept(data.tag).code, FactoryUtils.NA);
         verify(kept(data.tag).reason.toLowerCase().indexOf(data.sentence) >= 0);
     }
