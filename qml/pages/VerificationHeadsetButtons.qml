@@ -71,15 +71,16 @@ TestPage {
             model: page.buttons
 
             Rectangle {
+                id: chip
                 readonly property bool isHeld: page.held & modelData.mask
                 readonly property bool isSeen: page.seen & modelData.mask
-                visible: isHeld || isSeen
+                visible: chip.isHeld || chip.isSeen
                 width: label.width + 4 * Theme.unit
                 height: 6 * Theme.unit
                 radius: Theme.radius
-                color: isHeld ? Theme.accent : Theme.passTint
+                color: chip.isHeld ? Theme.accent : Theme.passTint
                 border.width: Theme.hairline
-                border.color: isHeld ? Theme.accent : Theme.pass
+                border.color: chip.isHeld ? Theme.accent : Theme.pass
 
                 Row {
                     id: label
@@ -88,15 +89,15 @@ TestPage {
 
                     Icon {
                         anchors.verticalCenter: parent.verticalCenter
-                        name: isHeld ? "touch" : "pass"
-                        color: isHeld ? Theme.accentInk : Theme.pass
+                        name: chip.isHeld ? "touch" : "pass"
+                        color: chip.isHeld ? Theme.accentInk : Theme.pass
                         size: 2.5 * Theme.unit
                     }
                     Words {
                         anchors.verticalCenter: parent.verticalCenter
                         text: modelData.name
                         font.weight: Font.DemiBold
-                        color: isHeld ? Theme.accentInk : Theme.pass
+                        color: chip.isHeld ? Theme.accentInk : Theme.pass
                     }
                 }
             }

@@ -102,12 +102,13 @@ Item {
             model: screen.order
 
             Rectangle {
+                id: share
                 readonly property var look: Style.looks[modelData]
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 Layout.preferredWidth: counts.width / 4
                 implicitHeight: tally.height + Theme.margin
-                color: Theme[look.tint]
+                color: Theme[share.look.tint]
 
                 Column {
                     id: tally
@@ -119,14 +120,14 @@ Item {
                         horizontalAlignment: Text.AlignHCenter
                         font.pixelSize: Theme.title
                         font.weight: Font.Bold
-                        color: Theme[look.ink]
+                        color: Theme[share.look.ink]
                         text: screen.flow ? screen.flow.count(modelData) : ""
                     }
                     FittedWords {
                         width: parent.width
                         horizontalAlignment: Text.AlignHCenter
                         largest: Theme.small
-                        color: Theme[look.ink]
+                        color: Theme[share.look.ink]
                         text: Style.word(modelData)
                     }
                 }

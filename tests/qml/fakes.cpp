@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QtQml>
 
-int registerFakeTypes()
+int registerFakeTypes(const char *module)
 {
     const QDir directory(QStringLiteral(KIV_FAKE_TYPES));
     const int phone = qmlRegisterSingletonType(QUrl::fromLocalFile(directory.filePath(QStringLiteral("Phone.qml"))),
@@ -21,14 +21,14 @@ int registerFakeTypes()
         const QUrl url = QUrl::fromLocalFile(file.fileName());
         const QByteArray type = QFileInfo(name).baseName().toLatin1();
         if (file.open(QIODevice::ReadOnly) && file.readAll().contains("pragma Singleton"))
-            qmlRegisterSingletonType(url, "Kiv", 1, 0, type.constData());
+            qmlRegisterSingletonType(url, module, 1, 0, type.constData());
         else
-            qmlRegisterType(url, "Kiv", 1, 0, type.constData());
+            qmlRegisterType(url, module, 1, 0, type.constData());
     }
     // Properties that begin with a capital letter cannot be written in QML; these two have no hardware to pretend.
-    qmlRegisterType<KivUtils>("Kiv", 1, 0, "KivUtils");
+    qmlRegisterType<KivUtils>(module, 1, 0, "KivUtils");
     qmlRegisterSingletonType<FactoryUtils>(
-        "Kiv", 1, 0, "FactoryUtils", [](QQmlEngine *, QJSEngine *) -> QObject * { return new FactoryUtils(nullptr); });
+        module, 1, 0, "FactoryUtils", [](QQmlEngine *, QJSEngine *) -> QObject * { return new FactoryUtils(nullptr); });
     return phone;
 }
 

@@ -4,9 +4,10 @@
 
 /*!
  * Registers the Kiv module with pretended types of the same names, written in QML, in place of the real ones. What they
- * report is set on the singleton Phone of the module KivFake, whose type id this returns.
+ * report is set on the singleton Phone of the module KivFake, whose type id this returns. To have both, name another
+ * module.
  */
-int registerFakeTypes();
+int registerFakeTypes(const char *module = "Kiv");
 
 class QQmlEngine;
 

@@ -98,7 +98,7 @@ class tst_Screens : public QObject
     Q_OBJECT
 
 public:
-    explicit tst_Screens(const QString &language) : m_language(language) {}
+    explicit tst_Screens(const QString &language) : m_language(language) { }
 
 private Q_SLOTS:
     void initTestCase();

@@ -8,6 +8,7 @@ QtObject {
     property bool hall: false
     function openFile() { open = true; hall = Phone.hall; Phone.note("openFile"); }
     function closeFile() { open = false; Phone.note("closeFile"); }
+    function readHallData(descriptor) { hall = Phone.hall; }
     property Connections follower: Connections {
         target: Phone
         function onHallChanged() {

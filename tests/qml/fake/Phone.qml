@@ -45,6 +45,7 @@ QtObject {
     property bool nfc: true
     property bool fmTransmitter: false
     property int modemCount: 1
+    property string sourcePort: "input-before"
     property var streams: [{ mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%", corked: false,
                              muted: true }]
 
@@ -104,6 +105,7 @@ QtObject {
         sinkName = "sink.primary";
         sinkPort = "output-before";
         sourceName = "source.builtin";
+        sourcePort = "input-before";
         offersRadio = true;
         coverService = "answers";
         coverReady = true;
