@@ -44,10 +44,11 @@ ChildResult runChild(const QString &program, const QStringList &arguments, std::
     result.started = process.waitForStarted(int(timeout.count()));
     if (result.started) {
         const QDeadlineTimer deadline(timeout);
-        while (process.waitForReadyRead(int(deadline.remainingTime())))
+        // What is ready to be read is read even without any time left, so one that prints on and on must be told apart.
+        while (!deadline.hasExpired() && process.waitForReadyRead(int(deadline.remainingTime())))
             takeOutput();
-        result.finished =
-            process.state() == QProcess::NotRunning || process.waitForFinished(int(deadline.remainingTime()));
+        result.finished = process.state() == QProcess::NotRunning
+            || (!deadline.hasExpired() && process.waitForFinished(int(deadline.remainingTime())));
         takeOutput();
     }
     if (result.finished) {

@@ -6,16 +6,32 @@
 #include <QElapsedTimer>
 #include <QtTest>
 
+#include <atomic>
+
+#include <poll.h>
 #include <signal.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 namespace
 {
 const QString Shell = QStringLiteral("/bin/sh");
 
+// On a busy phone, whoever else runs gets the processor before each look at the child.
+std::atomic<bool> busyPhone{false};
+
 ChildResult shell(const char *script, std::chrono::milliseconds timeout = ChildTimeout)
 {
     return runChild(Shell, {QStringLiteral("-c"), QString::fromUtf8(script)}, timeout);
 }
+}
+
+extern "C" Q_DECL_EXPORT int ppoll(pollfd *watched, nfds_t count, const timespec *timeout, const sigset_t *signalMask)
+{
+    if (busyPhone)
+        ::usleep(2000);
+    timespec time = timeout ? *timeout : timespec();
+    return int(::syscall(SYS_ppoll, watched, count, timeout ? &time : nullptr, signalMask, _NSIG / 8));
 }
 
 class tst_RunChild : public QObject
@@ -31,6 +47,7 @@ private Q_SLOTS:
     void tellsWhatCannotBeStarted_data();
     void tellsWhatCannotBeStarted();
     void killsWhatTakesTooLong();
+    void killsWhatNeverStopsPrinting();
     void doesNotWaitForGrandchildren();
 };
 
@@ -121,6 +138,23 @@ void tst_RunChild::killsWhatTakesTooLong()
     QVERIFY(child > 0);
     QCOMPARE(::kill(child, 0), -1); // gone and collected
     QVERIFY(log.all().isEmpty());
+}
+
+void tst_RunChild::killsWhatNeverStopsPrinting()
+{
+    QElapsedTimer timer;
+    timer.start();
+    busyPhone = true;
+    const ChildResult result = shell("echo $$; exec cat /dev/zero", std::chrono::milliseconds(1000));
+    busyPhone = false;
+    QVERIFY(timer.elapsed() >= 1000);
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!result.finished);
+    QVERIFY(!result.succeeded());
+    QVERIFY(result.output.size() > 1 && result.output.size() <= MaximumChildOutput);
+    const int child = result.output.left(result.output.indexOf('\n')).toInt();
+    QVERIFY(child > 0);
+    QCOMPARE(::kill(child, 0), -1);
 }
 
 void tst_RunChild::doesNotWaitForGrandchildren()
