@@ -1719,10 +1719,6 @@
         <source>The system has not announced any drive.</source>
         <translation>Das System hat kein Laufwerk gemeldet.</translation>
     </message>
-    <message id="kiv-usb-otg-late-advice">
-        <source>If it should have: try another drive and adapter, then choose Fail.</source>
-        <translation>Hätte es das sollen: ein anderes Laufwerk und einen anderen Adapter versuchen, dann „Fehler“ wählen.</translation>
-    </message>
     <message id="kiv-usb-otg-drive">
         <source>USB drive</source>
         <translation>USB-Laufwerk</translation>
@@ -2540,6 +2536,14 @@
     <message id="kiv-verdict-skip">
         <source>Skip</source>
         <translation>Auslassen</translation>
+    </message>
+    <message id="kiv-bluetooth-searched">
+        <source>The address is in order, and the radio searched.</source>
+        <translation>Die Adresse ist in Ordnung, und das Funkteil hat gesucht.</translation>
+    </message>
+    <message id="kiv-wifi-found">
+        <source>The address is in order, and the radio was found.</source>
+        <translation>Die Adresse ist in Ordnung, und das Funkteil wurde gefunden.</translation>
     </message>
 </context>
 </TS>

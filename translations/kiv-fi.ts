@@ -1704,10 +1704,6 @@
         <source>The system has not announced any drive.</source>
         <translation>Järjestelmä ei ole ilmoittanut asemaa.</translation>
     </message>
-    <message id="kiv-usb-otg-late-advice">
-        <source>If it should have: try another drive and adapter, then choose Fail.</source>
-        <translation>Jos sen olisi pitänyt: kokeile toista asemaa ja sovitinta ja valitse sitten Hylkää.</translation>
-    </message>
     <message id="kiv-usb-otg-drive">
         <source>USB drive</source>
         <translation>USB-asema</translation>
@@ -2525,6 +2521,14 @@
     <message id="kiv-verdict-skip">
         <source>Skip</source>
         <translation>Ohita</translation>
+    </message>
+    <message id="kiv-bluetooth-searched">
+        <source>The address is in order, and the radio searched.</source>
+        <translation>Osoite on kunnossa, ja radio etsi.</translation>
+    </message>
+    <message id="kiv-wifi-found">
+        <source>The address is in order, and the radio was found.</source>
+        <translation>Osoite on kunnossa, ja radio löytyi.</translation>
     </message>
 </context>
 </TS>

@@ -1719,10 +1719,6 @@
         <source>The system has not announced any drive.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message id="kiv-usb-otg-late-advice">
-        <source>If it should have: try another drive and adapter, then choose Fail.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message id="kiv-usb-otg-drive">
         <source>USB drive</source>
         <translation type="unfinished"></translation>
@@ -2539,6 +2535,14 @@
     </message>
     <message id="kiv-verdict-skip">
         <source>Skip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-searched">
+        <source>The address is in order, and the radio searched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-found">
+        <source>The address is in order, and the radio was found.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -26,6 +26,9 @@ TestPage {
     //% "Pass unlocks when the mode-control service has answered."
     evidenceHint: qsTrId("kiv-radios-hint")
 
+    //% "The mode-control service does not answer."
+    trouble: watch.lost ? qsTrId("kiv-radios-lost") : ""
+
     onOpened: {
         prefers4G = radio.getResult;
         watch.active = true;
@@ -58,14 +61,6 @@ TestPage {
         }
     }
 
-    Notice {
-        objectName: "lost"
-        width: parent.width
-        visible: watch.lost
-        kind: "fail"
-        //% "The mode-control service does not answer."
-        text: qsTrId("kiv-radios-lost")
-    }
     Measurement {
         id: service
         //% "Mode-control service"

@@ -29,6 +29,7 @@ TestPage {
     //% "What the system is busy with. The list of processes appears after five seconds."
     instructions: qsTrId("kiv-system-instructions")
     measurements: [start, up, asleep, minute, fiveMinutes, quarter]
+    trouble: patience.expired ? qsTrId("kiv-radios-lost") : ""
 
     onOpened: {
         follow();
@@ -63,14 +64,6 @@ TestPage {
             asleep.value = undefined;
         }
         onRunningChanged: if (running) expired = false
-    }
-
-    Notice {
-        objectName: "lost"
-        width: parent.width
-        visible: patience.expired
-        kind: "near"
-        text: qsTrId("kiv-radios-lost")
     }
 
     Measurement {

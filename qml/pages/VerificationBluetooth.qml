@@ -45,6 +45,10 @@ TestPage {
         else if (found.length > 0)
             //% "The address is in order, and the radio found a device: %1"
             judgeReadings(qsTrId("kiv-bluetooth-good").arg(found[0]));
+        // Where nobody can put a device nearby, a search must do.
+        else if (unattended && searched)
+            //% "The address is in order, and the radio searched."
+            judgeReadings(qsTrId("kiv-bluetooth-searched"));
     }
 
     function add(device) {
@@ -63,6 +67,7 @@ TestPage {
     evidence: address.good && (blind || searched)
     //% "Pass unlocks when the address is in order and the radio has searched."
     evidenceHint: qsTrId("kiv-bluetooth-hint")
+    trouble: search === null || verdict !== "" ? "" : search.trouble
 
     onOpened: {
         //% "This phone has no Bluetooth."
@@ -102,13 +107,6 @@ TestPage {
         visible: page.blind
         kind: "near"
         text: qsTrId("kiv-radio-blind")
-    }
-    Notice {
-        objectName: "trouble"
-        width: parent.width
-        visible: text !== "" && page.verdict === ""
-        kind: "near"
-        text: page.search === null ? "" : page.search.trouble
     }
     Notice {
         objectName: "nobody"

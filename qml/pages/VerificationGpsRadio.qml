@@ -14,7 +14,21 @@ TestPage {
     property real reported: 0
     property real now: 0
     // Receivers report once a second.
-    readonly property bool silent: receives && verdict === "" && reported > 0 && now - reported > 15000
+    readonly property bool silent: receives && reported > 0 && now - reported > 15000
+    readonly property string serviceTrouble: gps === null ? ""
+        : gps.status === Gps.StatusError
+        //% "The positioning service is in trouble or does not answer."
+        ? qsTrId("kiv-gps-error")
+        : gps.status === Gps.StatusUnavailable
+        //% "The positioning service cannot position. Is positioning switched on in the phone's settings?"
+        ? qsTrId("kiv-gps-unavailable") : ""
+    readonly property string receiverTrouble: !receives ? ""
+        : gps.satelliteInfoError
+        //% "The receiver reports an error."
+        ? qsTrId("kiv-gps-source-error")
+        : silent
+        //% "The receiver has not reported for %1 s."
+        ? qsTrId("kiv-gps-silent").arg(Math.round((now - reported) / 1000)) : ""
 
     function statusWord(status) {
         switch (status) {
@@ -68,6 +82,8 @@ TestPage {
                   ? qsTrId("kiv-gps-hint-position")
                   //% "Pass unlocks when a satellite is in use."
                   : qsTrId("kiv-gps-hint")
+    trouble: verdict !== "" ? ""
+             : [serviceTrouble, receiverTrouble].filter(function(text) { return text !== ""; }).join("\n")
 
     onOpened: {
         //% "This phone has no satellite receiver."
@@ -103,34 +119,6 @@ TestPage {
         kind: "near"
         //% "The system offers no view of the satellites, only the state of the positioning service."
         text: qsTrId("kiv-gps-no-source")
-    }
-    Notice {
-        objectName: "status"
-        width: parent.width
-        visible: page.gps !== null && page.verdict === ""
-                 && (page.gps.status === Gps.StatusError || page.gps.status === Gps.StatusUnavailable)
-        kind: page.gps !== null && page.gps.status === Gps.StatusError ? "fail" : "near"
-        text: page.gps !== null && page.gps.status === Gps.StatusError
-              //% "The positioning service is in trouble or does not answer."
-              ? qsTrId("kiv-gps-error")
-              //% "The positioning service cannot position. Is positioning switched on in the phone's settings?"
-              : qsTrId("kiv-gps-unavailable")
-    }
-    Notice {
-        objectName: "sourceError"
-        width: parent.width
-        visible: page.gps !== null && page.gps.satelliteInfoError && page.verdict === ""
-        kind: "fail"
-        //% "The receiver reports an error."
-        text: qsTrId("kiv-gps-source-error")
-    }
-    Notice {
-        objectName: "silent"
-        width: parent.width
-        visible: page.silent && !page.gps.satelliteInfoError
-        kind: "near"
-        //% "The receiver has not reported for %1 s."
-        text: qsTrId("kiv-gps-silent").arg(Math.round((page.now - page.reported) / 1000))
     }
     Card {
         width: parent.width

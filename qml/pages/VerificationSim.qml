@@ -49,6 +49,8 @@ TestPage {
     evidence: blind || cards > 0
     //% "Pass unlocks when a SIM card has been read."
     evidenceHint: qsTrId("kiv-sim-hint")
+    //% "A SIM card is not there, is locked or cannot be read. Look after it, then ask again."
+    trouble: asked && verdict === "" && cards < modems.length ? qsTrId("kiv-sim-cardless") : ""
 
     onOpened: {
         //% "This phone has no modem."
@@ -71,14 +73,6 @@ TestPage {
         visible: page.blind
         kind: "near"
         text: qsTrId("kiv-radio-blind")
-    }
-    Notice {
-        objectName: "cardless"
-        width: parent.width
-        visible: page.asked && page.verdict === "" && page.cards < page.modems.length
-        kind: "near"
-        //% "A SIM card is not there, is locked or cannot be read. Look after it, then ask again."
-        text: qsTrId("kiv-sim-cardless")
     }
     PushButton {
         objectName: "again"

@@ -30,6 +30,11 @@ TestPage {
     evidence: false
     //% "Pass unlocks when a drive was seen to come and go."
     evidenceHint: qsTrId("kiv-usb-otg-hint")
+    trouble: !late || verdict !== "" ? ""
+             //% "The system has not announced that the drive is gone."
+             : seenDrive ? qsTrId("kiv-usb-otg-late-gone")
+             //% "The system has not announced any drive."
+             : qsTrId("kiv-usb-otg-late")
 
     onOpened: {
         //% "This phone cannot take USB devices."
@@ -58,19 +63,6 @@ TestPage {
             //% "Pull it out"
             { text: qsTrId("kiv-usb-otg-step-pull"), done: page.seenRemoved }
         ]
-    }
-    Notice {
-        objectName: "late"
-        width: parent.width
-        visible: page.late && page.verdict === "" && page.missing === ""
-        kind: "near"
-        text: page.seenDrive
-              //% "The system has not announced that the drive is gone."
-              ? qsTrId("kiv-usb-otg-late-gone")
-              //% "The system has not announced any drive."
-              : qsTrId("kiv-usb-otg-late")
-        //% "If it should have: try another drive and adapter, then choose Fail."
-        detail: qsTrId("kiv-usb-otg-late-advice")
     }
     Measurement {
         id: drive

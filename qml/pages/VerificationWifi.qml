@@ -25,6 +25,10 @@ TestPage {
         if (connected || !there || !address.good)
             //% "The address is in order, and the radio is connected to a network."
             judgeReadings(qsTrId("kiv-wifi-good"));
+        // Where nobody can see to a network, a radio must do.
+        else if (unattended)
+            //% "The address is in order, and the radio was found."
+            judgeReadings(qsTrId("kiv-wifi-found"));
     }
 
     instructions: blind

@@ -35,6 +35,8 @@ TestPage {
     evidence: false
     //% "Pass unlocks when a cover was seen to come and go."
     evidenceHint: qsTrId("kiv-zel-hint")
+    //% "The smart-cover service does not answer."
+    trouble: watch.lost && verdict === "" ? qsTrId("kiv-zel-lost") : ""
 
     onOpened: {
         //% "This phone has no smart-cover service."
@@ -78,17 +80,9 @@ TestPage {
     Timer {
         id: patience
         interval: 8000
-        //% "The smart-cover service does not answer."
         onTriggered: page.judge(FactoryUtils.Fail, qsTrId("kiv-zel-lost"))
     }
 
-    Notice {
-        objectName: "lost"
-        width: parent.width
-        visible: page.missing === "" && watch.lost && page.verdict === ""
-        kind: "fail"
-        text: qsTrId("kiv-zel-lost")
-    }
     Notice {
         objectName: "notReady"
         width: parent.width
