@@ -6,5 +6,11 @@ QtObject {
     function primarySinkName() { return Phone.sinkName; }
     function primarySinkActivePort() { return Phone.sinkPort; }
     function builtinSourceName() { return Phone.sourceName; }
-    function setPrimarySinkPort(port) { Phone.sinkPort = port; Phone.note("port " + port); }
+    function setSinkPort(sink, port) {
+        if (sink !== Phone.sinkName)
+            return;
+        Phone.note("port " + port);
+        if (Phone.sinkPorts.indexOf(port) >= 0)
+            Phone.sinkPort = port;
+    }
 }
