@@ -1263,8 +1263,9 @@
         <translation>Beide Seiten</translation>
     </message>
     <message id="kiv-microphone-missing">
-        <source>The sound server does not answer, or it knows no built-in microphone.</source>
-        <translation>Der Tondienst antwortet nicht, oder er kennt kein eingebautes Mikrofon.</translation>
+        <source>The sound server has no built-in microphone, or its tool does not answer.</source>
+        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
+        <translation>Der Tondienst hat kein eingebautes Mikrofon, oder sein Werkzeug antwortet nicht.</translation>
     </message>
     <message id="kiv-microphone-hint">
         <source>Pass unlocks when a recording has been played back.</source>
@@ -1291,8 +1292,9 @@
         <translation>Noch einmal abspielen</translation>
     </message>
     <message id="kiv-sound-missing">
-        <source>The sound server does not answer, or it has no main output.</source>
-        <translation>Der Tondienst antwortet nicht, oder er hat keinen Hauptausgang.</translation>
+        <source>The sound server has no main output, or its tool does not answer.</source>
+        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
+        <translation>Der Tondienst hat keinen Hauptausgang, oder sein Werkzeug antwortet nicht.</translation>
     </message>
     <message id="kiv-sound-hint">
         <source>Pass unlocks when every sound has been played.</source>
@@ -1353,6 +1355,77 @@
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>Das Radio ließ sich nicht einschalten: Die Tonsteuerung antwortet nicht oder bietet es nicht an.</translation>
+    </message>
+    <message id="kiv-microphone-unplayed">
+        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <translation>Der Tondienst hat die Aufnahme nicht abgespielt: Er wurde neu gestartet, seit Kiv läuft. Starten Sie Kiv neu.</translation>
+    </message>
+    <message id="kiv-sound-unreached">
+        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
+        <translation>Der Tondienst antwortet nicht. Versuchen Sie es noch einmal, sobald er läuft. Hilft das nicht, starten Sie Kiv neu.</translation>
+    </message>
+    <message id="kiv-microphone-putting-back">
+        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
+        <translation>Das Mikrofon wird zurückgestellt. Solange der Tondienst nicht antwortet, dauert das bis zu zwei Minuten.</translation>
+    </message>
+    <message id="kiv-microphone-no-level">
+        <source>The phone shows no level. Listen to the recording afterwards.</source>
+        <translation>Das Telefon zeigt keinen Pegel. Hören Sie sich danach die Aufnahme an.</translation>
+    </message>
+    <message id="kiv-microphone-silent">
+        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
+        <translation>Nichts gehört? Dann ist das Mikrofon taub, oder der Ordner /tmp ist voll: Eine Aufnahme braucht dort etwa 800 kB.</translation>
+    </message>
+    <message id="kiv-side-left">
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message id="kiv-side-right">
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message id="kiv-side-none">
+        <source>Neither, or I cannot tell</source>
+        <translation>Weder noch, oder nicht zu hören</translation>
+    </message>
+    <message id="kiv-sides-wrong">
+        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
+        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
+        <translation>Gespielte Seite: „%1“, gehörte Seite: „%2“</translation>
+    </message>
+    <message id="kiv-sides-good">
+        <source>The operator heard every tone from its side: %1 of %1</source>
+        <translation>Jeder Ton wurde von seiner Seite gehört: %1 von %1</translation>
+    </message>
+    <message id="kiv-sides-question">
+        <source>From which side does the tone come? Question %1 of %2</source>
+        <extracomment>Number of this question and of all of them</extracomment>
+        <translation>Von welcher Seite kommt der Ton? Frage %1 von %2</translation>
+    </message>
+    <message id="kiv-sides-again">
+        <source>Play the tone again</source>
+        <translation>Ton noch einmal spielen</translation>
+    </message>
+    <message id="kiv-sides-play">
+        <source>Play the tone</source>
+        <translation>Ton spielen</translation>
+    </message>
+    <message id="kiv-sound-unswitched">
+        <source>The sound server does not switch to the output %1.</source>
+        <extracomment>The name of the output in the sound server</extracomment>
+        <translation>Der Tondienst schaltet nicht auf den Ausgang %1 um.</translation>
+    </message>
+    <message id="kiv-sides-hint">
+        <source>Answer from which side each tone comes: the answers are the verdict.</source>
+        <translation>Antworten Sie, von welcher Seite jeder Ton kommt: Die Antworten sind das Urteil.</translation>
+    </message>
+    <message id="kiv-sound-lost">
+        <source>The sound server takes no more sound.</source>
+        <translation>Der Tondienst nimmt keinen Ton mehr an.</translation>
+    </message>
+    <message id="kiv-fm-radio-working">
+        <source>Waiting for the audio policy</source>
+        <translation>Warten auf die Tonsteuerung</translation>
     </message>
     <message id="kiv-gps-satellite">
         <source>Satellite %1, %2 dB</source>

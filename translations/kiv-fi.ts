@@ -1248,8 +1248,9 @@
         <translation>Molemmat puolet</translation>
     </message>
     <message id="kiv-microphone-missing">
-        <source>The sound server does not answer, or it knows no built-in microphone.</source>
-        <translation>Äänipalvelu ei vastaa, tai se ei tunne sisäistä mikrofonia.</translation>
+        <source>The sound server has no built-in microphone, or its tool does not answer.</source>
+        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
+        <translation>Äänipalvelulla ei ole sisäistä mikrofonia, tai sen työkalu ei vastaa.</translation>
     </message>
     <message id="kiv-microphone-hint">
         <source>Pass unlocks when a recording has been played back.</source>
@@ -1276,8 +1277,9 @@
         <translation>Toista uudelleen</translation>
     </message>
     <message id="kiv-sound-missing">
-        <source>The sound server does not answer, or it has no main output.</source>
-        <translation>Äänipalvelu ei vastaa, tai sillä ei ole päälähtöä.</translation>
+        <source>The sound server has no main output, or its tool does not answer.</source>
+        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
+        <translation>Äänipalvelulla ei ole päälähtöä, tai sen työkalu ei vastaa.</translation>
     </message>
     <message id="kiv-sound-hint">
         <source>Pass unlocks when every sound has been played.</source>
@@ -1338,6 +1340,77 @@
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>Radiota ei voitu kytkeä päälle: ääniohjaus ei vastaa tai ei tarjoa sitä.</translation>
+    </message>
+    <message id="kiv-microphone-unplayed">
+        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <translation>Äänipalvelu ei toistanut nauhoitusta: se on käynnistynyt uudelleen Kivin käynnistyttyä. Käynnistä Kiv uudelleen.</translation>
+    </message>
+    <message id="kiv-sound-unreached">
+        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
+        <translation>Äänipalvelu ei vastaa. Yritä uudelleen, kun se on käynnissä. Jos se ei auta, käynnistä Kiv uudelleen.</translation>
+    </message>
+    <message id="kiv-microphone-putting-back">
+        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
+        <translation>Mikrofonia palautetaan. Se kestää jopa kaksi minuuttia, kun äänipalvelu ei vastaa.</translation>
+    </message>
+    <message id="kiv-microphone-no-level">
+        <source>The phone shows no level. Listen to the recording afterwards.</source>
+        <translation>Puhelin ei näytä äänitasoa. Kuuntele nauhoitus sen jälkeen.</translation>
+    </message>
+    <message id="kiv-microphone-silent">
+        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
+        <translation>Etkö kuullut mitään? Silloin mikrofoni on kuuro tai kansio /tmp on täynnä: nauhoitus vie siellä noin 800 kB.</translation>
+    </message>
+    <message id="kiv-side-left">
+        <source>Left</source>
+        <translation>Vasen</translation>
+    </message>
+    <message id="kiv-side-right">
+        <source>Right</source>
+        <translation>Oikea</translation>
+    </message>
+    <message id="kiv-side-none">
+        <source>Neither, or I cannot tell</source>
+        <translation>Ei kumpikaan, tai en osaa sanoa</translation>
+    </message>
+    <message id="kiv-sides-wrong">
+        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
+        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
+        <translation>Soitettu puoli: ”%1”, kuultu puoli: ”%2”</translation>
+    </message>
+    <message id="kiv-sides-good">
+        <source>The operator heard every tone from its side: %1 of %1</source>
+        <translation>Jokainen ääni kuultiin omalta puoleltaan: %1/%1</translation>
+    </message>
+    <message id="kiv-sides-question">
+        <source>From which side does the tone come? Question %1 of %2</source>
+        <extracomment>Number of this question and of all of them</extracomment>
+        <translation>Kummalta puolelta ääni tulee? Kysymys %1/%2</translation>
+    </message>
+    <message id="kiv-sides-again">
+        <source>Play the tone again</source>
+        <translation>Soita ääni uudelleen</translation>
+    </message>
+    <message id="kiv-sides-play">
+        <source>Play the tone</source>
+        <translation>Soita ääni</translation>
+    </message>
+    <message id="kiv-sound-unswitched">
+        <source>The sound server does not switch to the output %1.</source>
+        <extracomment>The name of the output in the sound server</extracomment>
+        <translation>Äänipalvelu ei vaihda lähtöön %1.</translation>
+    </message>
+    <message id="kiv-sides-hint">
+        <source>Answer from which side each tone comes: the answers are the verdict.</source>
+        <translation>Vastaa, kummalta puolelta kukin ääni tulee: vastaukset ratkaisevat.</translation>
+    </message>
+    <message id="kiv-sound-lost">
+        <source>The sound server takes no more sound.</source>
+        <translation>Äänipalvelu ei ota enää ääntä vastaan.</translation>
+    </message>
+    <message id="kiv-fm-radio-working">
+        <source>Waiting for the audio policy</source>
+        <translation>Odotetaan äänenohjausta</translation>
     </message>
     <message id="kiv-gps-satellite">
         <source>Satellite %1, %2 dB</source>

@@ -1263,7 +1263,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-microphone-missing">
-        <source>The sound server does not answer, or it knows no built-in microphone.</source>
+        <source>The sound server has no built-in microphone, or its tool does not answer.</source>
+        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-microphone-hint">
@@ -1291,7 +1292,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-sound-missing">
-        <source>The sound server does not answer, or it has no main output.</source>
+        <source>The sound server has no main output, or its tool does not answer.</source>
+        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-sound-hint">
@@ -1352,6 +1354,77 @@
     </message>
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-unplayed">
+        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-unreached">
+        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-putting-back">
+        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-no-level">
+        <source>The phone shows no level. Listen to the recording afterwards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-silent">
+        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-side-left">
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-side-right">
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-side-none">
+        <source>Neither, or I cannot tell</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-wrong">
+        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
+        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-good">
+        <source>The operator heard every tone from its side: %1 of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-question">
+        <source>From which side does the tone come? Question %1 of %2</source>
+        <extracomment>Number of this question and of all of them</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-again">
+        <source>Play the tone again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-play">
+        <source>Play the tone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-unswitched">
+        <source>The sound server does not switch to the output %1.</source>
+        <extracomment>The name of the output in the sound server</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-hint">
+        <source>Answer from which side each tone comes: the answers are the verdict.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-lost">
+        <source>The sound server takes no more sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-working">
+        <source>Waiting for the audio policy</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-gps-satellite">

@@ -14,10 +14,11 @@ SoundPage {
                   //% "Plug a headset in."
                   : qsTrId("kiv-headset-music-instructions-plug")
     measurements: [plugged]
+    asksForSides: true
     sounds: [
-        { name: "left", text: qsTrId("kiv-sound-left"), file: "left.wav" },
-        { name: "right", text: qsTrId("kiv-sound-right"), file: "right.wav" },
-        { name: "tune", text: qsTrId("kiv-sound-tune"), file: "tune.wav" }
+        { name: "left", text: qsTrId("kiv-sound-left"), file: "left.wav", ms: 800 },
+        { name: "right", text: qsTrId("kiv-sound-right"), file: "right.wav", ms: 800 },
+        { name: "tune", text: qsTrId("kiv-sound-tune"), file: "tune.wav", ms: 4000 }
     ]
 
     AudioRoute {

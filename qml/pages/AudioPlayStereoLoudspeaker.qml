@@ -6,12 +6,13 @@ SoundPage {
     port: "output-speaker"
     //% "Play each sound: it must come from the side that its button names."
     instructions: qsTrId("kiv-speaker-stereo-instructions")
+    asksForSides: true
     sounds: [
         //% "Left: low tone"
-        { name: "left", text: qsTrId("kiv-sound-left"), file: "left.wav" },
+        { name: "left", text: qsTrId("kiv-sound-left"), file: "left.wav", ms: 800 },
         //% "Right: high tone"
-        { name: "right", text: qsTrId("kiv-sound-right"), file: "right.wav" },
+        { name: "right", text: qsTrId("kiv-sound-right"), file: "right.wav", ms: 800 },
         //% "Both sides"
-        { name: "both", text: qsTrId("kiv-sound-both"), file: "both.wav" }
+        { name: "both", text: qsTrId("kiv-sound-both"), file: "both.wav", ms: 800 }
     ]
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
-import QtMultimedia 5.15
 import Kiv 1.0
 import "../controls"
 
@@ -13,67 +12,98 @@ TestPage {
 
     /*! The output's port by its name in the sound server. */
     property string port
-    /*! A list of {name, text, file}; the operator must have played all of them. */
+    /*! A list of {name, text, file, ms}; the operator must have played all of them. */
     property var sounds: []
     /*! The page is ready to play: a headset is plugged in. */
     property bool ready: true
+    /*! Whether the operator is asked from which side a tone comes. His answers are the verdict then. */
+    property bool asksForSides: false
 
+    property string sink
     property string portBefore
     property string playing
     property var played: []
+    /*! The server has gone since the page was opened. */
+    property bool lost: false
+    property bool prepared: false
+    readonly property bool allPlayed: sounds.every(function(entry) { return played.indexOf(entry.name) >= 0; })
 
     function prepare() {
-        //% "The sound server does not answer, or it has no main output."
-        missing = sound.primarySinkName() === "" ? qsTrId("kiv-sound-missing") : "";
-        if (missing !== "")
+        sink = sound.primarySinkName();
+        if (sink === "") {
+            //% "The sound server has no main output, or its tool does not answer."
+            missing = qsTrId("kiv-sound-missing");
             return;
+        }
         portBefore = sound.primarySinkActivePort();
-        sound.setPrimarySinkPort(port);
+        sound.setSinkPort(sink, port);
+        // A sound that comes from elsewhere would be judged for this output.
+        if (sound.primarySinkActivePort() !== port) {
+            //: The name of the output in the sound server
+            //% "The sound server does not switch to the output %1."
+            missing = qsTrId("kiv-sound-unswitched").arg(port);
+            return;
+        }
+        prepared = true;
     }
 
-    function play(entry) {
-        player.stop();
-        playing = entry.name;
-        player.source = Qt.resolvedUrl("../sounds/" + entry.file);
-        player.play();
-        heard.restart();
+    function play(name, file, ms) {
+        lost = false;
+        playing = name;
+        link.play(file, ms);
     }
 
     function hush() {
-        heard.stop();
-        player.stop();
+        link.stop();
         playing = "";
     }
 
-    evidence: missing === "" && played.length >= sounds.length
-    //% "Pass unlocks when every sound has been played."
-    evidenceHint: qsTrId("kiv-sound-hint")
+    evidence: missing === "" && !lost && !asksForSides && allPlayed
+    evidenceHint: asksForSides && allPlayed
+                  //% "Answer from which side each tone comes: the answers are the verdict."
+                  ? qsTrId("kiv-sides-hint")
+                  //% "Pass unlocks when every sound has been played."
+                  : qsTrId("kiv-sound-hint")
 
-    //% "Setting up the sound output"
-    onOpened: blocking(qsTrId("kiv-sound-working"), prepare)
+    onOpened: link.ask()
     onClosing: {
         hush();
+        // By its name, so that a server that hangs holds up the leaving only once.
         if (portBefore !== "" && portBefore !== port)
-            sound.setPrimarySinkPort(portBefore);
+            sound.setSinkPort(sink, portBefore);
     }
     onReadyChanged: if (!ready) hush()
+    onVerdictChanged: hush()
 
     PaCmd {
         id: sound
     }
-    SoundEffect {
-        id: player
-        loops: SoundEffect.Infinite
-        category: "kiv"
-    }
-    // What was cut short has not been heard.
-    Timer {
-        id: heard
-        interval: 1000
-        onTriggered: {
-            if (page.played.indexOf(page.playing) < 0)
+    SoundLink {
+        id: link
+        //% "Setting up the sound output"
+        onReached: page.blocking(qsTrId("kiv-sound-working"), page.prepare)
+        onLost: {
+            page.playing = "";
+            if (page.prepared)
+                page.lost = true;
+            else
+                //% "The sound server does not answer. Try again once it runs. If that does not help, restart Kiv."
+                page.missing = qsTrId("kiv-sound-unreached");
+        }
+        onTaken: {
+            if (page.playing !== "" && page.played.indexOf(page.playing) < 0)
                 page.played = page.played.concat([page.playing]);
         }
+    }
+
+    Notice {
+        objectName: "lost"
+        width: parent.width
+        visible: page.lost
+        kind: "fail"
+        //% "The sound server takes no more sound."
+        text: qsTrId("kiv-sound-lost")
+        detail: qsTrId("kiv-sound-unreached")
     }
 
     Column {
@@ -87,13 +117,31 @@ TestPage {
             PushButton {
                 objectName: modelData.name
                 width: parent.width
-                enabled: page.isOpen && page.ready
+                enabled: page.prepared && page.isOpen && page.ready && page.verdict === ""
                 text: modelData.text
-                glyph: "speaker"
+                glyph: page.played.indexOf(modelData.name) >= 0 ? "pass" : "speaker"
                 fill: page.playing === modelData.name ? Theme.accent : Theme.surface
                 ink: page.playing === modelData.name ? Theme.accentInk : Theme.text
-                onClicked: page.playing === modelData.name ? page.hush() : page.play(modelData)
+                onClicked: {
+                    if (page.playing === modelData.name)
+                        page.hush();
+                    else
+                        page.play(modelData.name, modelData.file, modelData.ms);
+                }
             }
+        }
+    }
+
+    Loader {
+        width: parent.width
+        active: page.asksForSides
+        visible: active && page.missing === "" && page.allPlayed
+        sourceComponent: SideQuestions {
+            objectName: "sides"
+            enabled: page.isOpen && page.ready && page.verdict === ""
+            onPlayRequested: page.play("side", file, 800)
+            onRight: page.judge(FactoryUtils.Pass, reason)
+            onWrong: page.judge(FactoryUtils.Fail, reason)
         }
     }
 }

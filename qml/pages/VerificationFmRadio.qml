@@ -11,6 +11,21 @@ TestPage {
     property bool refused: false
     readonly property real megahertz: KivHwSettings.defaultFmRadioFrequency
 
+    function toggle() {
+        var on = !route.fmRadio;
+        refused = false;
+        if (on) {
+            tuner.frequency = Math.round(megahertz * 1000000);
+            tuner.start();
+        } else {
+            tuner.stop();
+        }
+        // Waits for the answer, half a minute at most.
+        route.fmRadio = on;
+        if (on)
+            patience.restart();
+    }
+
     //% "Plug a headset in, whose cable is the antenna, and switch the radio on. A station or at least noise must be heard."
     instructions: qsTrId("kiv-fm-radio-instructions")
     measurements: [plugged, frequency, loop]
@@ -64,19 +79,8 @@ TestPage {
         text: route.fmRadio ? qsTrId("kiv-fm-radio-off")
                             //% "Switch the radio on"
                             : qsTrId("kiv-fm-radio-on")
-        onClicked: {
-            var on = !route.fmRadio;
-            if (on) {
-                tuner.frequency = Math.round(page.megahertz * 1000000);
-                tuner.start();
-            } else {
-                tuner.stop();
-            }
-            route.fmRadio = on;
-            page.refused = false;
-            if (on)
-                patience.restart();
-        }
+        //% "Waiting for the audio policy"
+        onClicked: page.blocking(qsTrId("kiv-fm-radio-working"), page.toggle)
     }
     Notice {
         width: parent.width

@@ -12,8 +12,14 @@ QtObject {
     function builtinSourceActivePort() { return Phone.sourcePort; }
     function externalSourceActivePort() { return ""; }
     function sourceIsCombined() { return true; }
-    function setSinkPort(sink, port) { setPrimarySinkPort(port); }
-    function setPrimarySinkPort(port) { Phone.sinkPort = port; Phone.note("port " + port); }
+    function setSinkPort(sink, port) {
+        if (sink !== Phone.sinkName)
+            return;
+        Phone.note("port " + port);
+        if (Phone.sinkPorts.indexOf(port) >= 0)
+            Phone.sinkPort = port;
+    }
+    function setPrimarySinkPort(port) { setSinkPort(Phone.sinkName, port); }
     function setPrimarySinkProperty(value) { Phone.note("sink property " + value); }
     function setSourcePort(source, port) { Phone.sourcePort = port; Phone.note("source port " + port); }
     function setBuiltinSourcePort(port) { setSourcePort(Phone.sourceName, port); }

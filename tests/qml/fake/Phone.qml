@@ -39,15 +39,13 @@ QtObject {
     property bool offersRadio: true
     property string sinkName: "sink.primary"
     property string sinkPort: "output-before"
+    property var sinkPorts: []
+    /*! Whether the sound server takes and gives anything, and the file that sounds. */
+    property bool soundServer: true
+    property string sounding
     property string sourceName: "source.builtin"
-    property bool modeControl: true
-    property var deviceTimes: [93784000, 61200000]
-    property bool nfc: true
-    property bool fmTransmitter: false
-    property int modemCount: 1
     property string sourcePort: "input-before"
-    property var streams: [{ mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%", corked: false,
-                             muted: true }]
+    property var streams: []
 
     property string coverService: "answers"
     property bool coverReady: true
@@ -106,6 +104,11 @@ QtObject {
         sinkPort = "output-before";
         sourceName = "source.builtin";
         sourcePort = "input-before";
+        sinkPorts = ["output-before", "output-speaker", "output-earpiece", "output-wired_headphone"];
+        soundServer = true;
+        sounding = "";
+        streams = [{ mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%", corked: false,
+                     muted: true }];
         offersRadio = true;
         coverService = "answers";
         coverReady = true;
