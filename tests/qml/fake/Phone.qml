@@ -45,6 +45,11 @@ QtObject {
     property string sounding
     property string sourceName: "source.builtin"
     property string sourcePort: "input-before"
+    property bool modeControl: true
+    property var deviceTimes: [93784000, 61200000]
+    property bool nfc: true
+    property bool fmTransmitter: false
+    property int modemCount: 1
     property var streams: []
 
     property string coverService: "answers"
