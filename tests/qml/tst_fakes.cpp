@@ -21,7 +21,8 @@ const QString Pretended = QStringLiteral(KIV_FAKE_TYPES);
 /*! Scripts have one kind of number, and a property of any type takes what comes. */
 bool isLike(int found, int wanted)
 {
-    static const QVector<int> numbers{QMetaType::Int, QMetaType::UInt, QMetaType::Float, QMetaType::Double};
+    static const QVector<int> numbers{QMetaType::Int, QMetaType::UInt, QMetaType::LongLong, QMetaType::Float,
+                                      QMetaType::Double};
     return found == wanted || found == QMetaType::QVariant || (numbers.contains(found) && numbers.contains(wanted));
 }
 
