@@ -162,6 +162,8 @@ void HeadsetDetect::readHeadsetData(int fd)
 {
     bool headphoneOn = m_headphoneOn;
     bool microphoneOn = m_microphoneOn;
+    // Asked once for all records, for nobody changes the rules meanwhile.
+    const bool tells = lcHeadset().isDebugEnabled();
     errno = 0;
     const ssize_t size = readInputRecords(fd, [&](const input_event &record) {
         if (record.type != EV_SW)
@@ -169,10 +171,12 @@ void HeadsetDetect::readHeadsetData(int fd)
         const bool on = record.value == 1;
         if (record.code == SW_HEADPHONE_INSERT) {
             headphoneOn = on;
-            qCDebug(lcHeadset) << (on ? "headphone inserted" : "headphone removed");
+            if (tells)
+                qCDebug(lcHeadset) << (on ? "headphone inserted" : "headphone removed");
         } else if (record.code == SW_MICROPHONE_INSERT) {
             microphoneOn = on;
-            qCDebug(lcHeadset) << (on ? "microphone inserted" : "microphone removed");
+            if (tells)
+                qCDebug(lcHeadset) << (on ? "microphone inserted" : "microphone removed");
         }
     });
     if (size < 0) {
@@ -191,15 +195,16 @@ void HeadsetDetect::readHeadsetData(int fd)
 void HeadsetDetect::readButtonData(int fd)
 {
     uint pressed = m_buttonsPressed;
+    const bool tells = lcHeadset().isDebugEnabled();
     errno = 0;
-    const ssize_t size = readInputRecords(fd, [&pressed](const input_event &record) {
+    const ssize_t size = readInputRecords(fd, [&](const input_event &record) {
         const uint bit = record.type == EV_KEY ? BitOfButton.of(record.code) : 0;
-        if (bit == 0)
-            return;
         const bool down = record.value == 1;
-        pressed = down ? pressed | bit : pressed & ~bit;
-        qCDebug(lcHeadset) << "Button" << QStringLiteral("0x%1").arg(record.code, 0, 16)
-                           << (down ? "pressed" : "released");
+        pressed = (pressed & ~bit) | (down ? bit : 0);
+        if (tells && bit != 0) {
+            qCDebug(lcHeadset) << "Button" << QStringLiteral("0x%1").arg(record.code, 0, 16)
+                               << (down ? "pressed" : "released");
+        }
     });
     if (size < 0) {
         qCWarning(lcHeadset) << "Couldn't read";

@@ -3,6 +3,8 @@
 
 #include "uniquefd.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
@@ -205,10 +207,11 @@ void Processes::setLimit(int limit)
 {
     if (m_limit == limit)
         return;
+    const QPointer<Processes> alive(this);
     const int oldCount = rowCount();
     m_limit = limit;
     Q_EMIT limitChanged();
-    if (rowCount() != oldCount)
+    if (alive && rowCount() != oldCount)
         Q_EMIT countChanged();
 }
 
@@ -256,8 +259,12 @@ void Processes::refresh()
         return;
     m_valid = !m_processes.empty();
     const bool resets = m_valid;
+    // Every signal may be answered by destroying this object.
+    const QPointer<Processes> alive(this);
     if (resets)
         beginResetModel();
+    if (!alive)
+        return;
     const quint64 total = readTotal(cpuFile);
     const quint64 totalDelta = total - m_previousTotal;
     const auto processors = quint64(::sysconf(_SC_NPROCESSORS_ONLN));
@@ -287,6 +294,6 @@ void Processes::refresh()
     m_previousTotal = total;
     if (resets)
         endResetModel();
-    if (rowCount() != oldCount)
+    if (alive && rowCount() != oldCount)
         Q_EMIT countChanged();
 }

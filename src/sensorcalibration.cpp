@@ -5,6 +5,7 @@
 #include "sensorcalibrationresolver.h"
 
 #include <QDebug>
+#include <QPointer>
 
 namespace
 {
@@ -33,15 +34,20 @@ SensorCalibration::SensorCalibration(const QString &sensor, QObject *parent) : Q
     setSensor(sensor);
 }
 
+// Every signal may be answered by destroying this object.
 void SensorCalibration::setSensor(const QString &sensor)
 {
     if (m_sensor == sensor)
         return;
+    const QPointer<SensorCalibration> alive(this);
     m_sensor = sensor;
     Q_EMIT sensorChanged();
-    setState(State::Unknown);
-    readType();
-    readRepresentation();
+    if (alive)
+        setState(State::Unknown);
+    if (alive)
+        readType();
+    if (alive)
+        readRepresentation();
 }
 
 bool SensorCalibration::calibrate()
@@ -61,16 +67,19 @@ bool SensorCalibration::reset()
 
 bool SensorCalibration::change(const QString &argument)
 {
+    const QPointer<SensorCalibration> alive(this);
     const bool done = runHelper(argument);
-    readRepresentation();
+    if (alive)
+        readRepresentation();
     return done;
 }
 
 void SensorCalibration::readType()
 {
+    const QPointer<SensorCalibration> alive(this);
     QString type;
     runHelper(TypeArgument, &type);
-    if (m_type == type)
+    if (!alive || m_type == type)
         return;
     m_type = type;
     Q_EMIT typeChanged();
@@ -78,9 +87,10 @@ void SensorCalibration::readType()
 
 void SensorCalibration::readRepresentation()
 {
+    const QPointer<SensorCalibration> alive(this);
     QString representation;
     runHelper(ShowArgument, &representation);
-    if (m_representation == representation)
+    if (!alive || m_representation == representation)
         return;
     m_representation = representation;
     Q_EMIT representationChanged();

@@ -161,6 +161,8 @@ private Q_SLOTS:
     void namesRealProcesses_data();
     void namesRealProcesses();
     void namesZombies();
+    void destroyedInHandler_data();
+    void destroyedInHandler();
     void leaksNothing();
 
     // What the kernel may say, on a /proc that the test writes
@@ -490,6 +492,36 @@ void tst_Processes::namesZombies()
     Processes model;
     refresh(&model);
     QTRY_VERIFY((refresh(&model), nameOf(model, zombie) == said("undead one")));
+}
+
+void tst_Processes::destroyedInHandler_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("before a reset") << 0;
+    QTest::newRow("after a reset") << 1;
+    QTest::newRow("count") << 2;
+    QTest::newRow("limit") << 3;
+}
+
+void tst_Processes::destroyedInHandler()
+{
+    QFETCH(int, signal);
+    const int before = descriptors();
+    auto model = std::make_unique<Processes>();
+    const auto destroy = [&] { model.reset(); };
+    if (signal == 0)
+        connect(model.get(), &Processes::modelAboutToBeReset, this, destroy);
+    else if (signal == 1)
+        connect(model.get(), &Processes::modelReset, this, destroy);
+    else if (signal == 2)
+        connect(model.get(), &Processes::countChanged, this, destroy);
+    else
+        connect(model.get(), &Processes::limitChanged, this, destroy);
+    refresh(model.get());
+    if (signal == 3)
+        model->setLimit(1);
+    QVERIFY(!model);
+    QCOMPARE(descriptors(), before);
 }
 
 void tst_Processes::leaksNothing()

@@ -10,6 +10,8 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
+#include <memory>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -126,6 +128,8 @@ private Q_SLOTS:
     void otherSensorBeginsAnew();
     void showsErrorsOfTheHelper();
     void helperHasNothingToRead();
+    void destroyedInHandler_data();
+    void destroyedInHandler();
     void survivesMuchOutput_data();
     void survivesMuchOutput();
     void leaksNothing();
@@ -484,6 +488,43 @@ void tst_SensorCalibration::helperHasNothingToRead()
     writeHelper(Gyroscope, "--type) cat; echo end;;\n--show) ;;");
     const SensorCalibration calibration(Gyroscope);
     QCOMPARE(calibration.type(), said("end"));
+}
+
+using Signal = void (SensorCalibration::*)();
+Q_DECLARE_METATYPE(Signal)
+
+void tst_SensorCalibration::destroyedInHandler_data()
+{
+    QTest::addColumn<Signal>("signal");
+    QTest::addColumn<QStringList>("calls"); // before the end
+    QTest::newRow("sensor") << Signal(&SensorCalibration::sensorChanged) << QStringList();
+    QTest::newRow("enabled") << Signal(&SensorCalibration::enabledChanged) << QStringList();
+    QTest::newRow("type") << Signal(&SensorCalibration::typeChanged) << QStringList({said("--type")});
+    QTest::newRow("representation") << Signal(&SensorCalibration::representationChanged)
+                                    << QStringList({said("--type"), said("--show")});
+}
+
+void tst_SensorCalibration::destroyedInHandler()
+{
+    QFETCH(Signal, signal);
+    QFETCH(QStringList, calls);
+    writeHelper(Gyroscope, "--type) echo offset;;\n--show) echo 1;;\n--reset) exit 1;;");
+    writeHelper(said("als"), "--type) echo scale;;\n--show) echo 2;;");
+    auto calibration = std::make_unique<SensorCalibration>(Gyroscope);
+    takeCalls();
+    connect(calibration.get(), signal, this, [&] { calibration.reset(); });
+    calibration->setSensor(said("als"));
+    QVERIFY(!calibration);
+    QCOMPARE(takeCalls(), calls);
+
+    // And in the middle of an operation.
+    calibration = std::make_unique<SensorCalibration>(Gyroscope);
+    takeCalls();
+    connect(calibration.get(), &SensorCalibration::enabledChanged, this, [&] { calibration.reset(); });
+    MessageLog log;
+    QVERIFY(!calibration->reset());
+    QVERIFY(!calibration);
+    QCOMPARE(takeCalls(), QStringList({said("--reset")}));
 }
 
 void tst_SensorCalibration::survivesMuchOutput_data()
