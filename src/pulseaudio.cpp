@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "pulseaudio.h"
 
+#include "runchild.h"
+
+#include <QPointer>
 #include <QRegularExpression>
 
 #include <chrono>
@@ -141,9 +144,11 @@ void PulseAudio::refresh()
 {
     dropProcess();
     m_process = new QProcess(this);
+    m_process->setProcessEnvironment(toolEnvironment());
     m_process->setStandardErrorFile(QProcess::nullDevice());
     connect(m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, &PulseAudio::onFinished);
-    connect(m_process, &QProcess::errorOccurred, this, &PulseAudio::onErrorOccurred);
+    // Queued, because the process does not survive it if a page is closed by what follows from its error.
+    connect(m_process, &QProcess::errorOccurred, this, &PulseAudio::onErrorOccurred, Qt::QueuedConnection);
     m_process->start(Tool, ToolArguments, QIODevice::ReadOnly);
 }
 
@@ -155,10 +160,10 @@ void PulseAudio::onFinished(int exitCode, QProcess::ExitStatus status)
         clear();
 }
 
-void PulseAudio::onErrorOccurred(QProcess::ProcessError error)
+void PulseAudio::onErrorOccurred()
 {
-    // The only error after which the process does not also finish.
-    if (error == QProcess::FailedToStart)
+    // The only error after which the process does not also finish. Asked for, because an earlier poll may have failed.
+    if (m_process->error() == QProcess::FailedToStart)
         clear();
 }
 
@@ -175,8 +180,10 @@ void PulseAudio::parse(const QString &text)
         m_sinkInputs.append(parseBlock(text.midRef(start, end - start)));
         start = next;
     }
+    // A page may be closed by the reset.
+    const QPointer<PulseAudio> alive(this);
     endResetModel();
-    if (count() != oldCount)
+    if (alive && count() != oldCount)
         Q_EMIT countChanged();
 }
 

@@ -56,7 +56,7 @@ private:
     static void parseLine(const QStringRef &line, SinkInput *sinkInput);
 
     void onFinished(int exitCode, QProcess::ExitStatus status);
-    void onErrorOccurred(QProcess::ProcessError error);
+    void onErrorOccurred();
     void parse(const QString &text);
     void clear();
     void dropProcess();

@@ -24,10 +24,19 @@ protected:
 };
 }
 
+QProcessEnvironment toolEnvironment()
+{
+    // Not the locale, which also says how characters are coded.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("C"));
+    return environment;
+}
+
 ChildResult runChild(const QString &program, const QStringList &arguments, std::chrono::milliseconds timeout,
                      ChildErrors errors, ChildInput input)
 {
     GroupLeader process;
+    process.setProcessEnvironment(toolEnvironment());
     if (input == ChildInput::Empty)
         process.setStandardInputFile(QProcess::nullDevice());
     if (errors == ChildErrors::Forwarded)

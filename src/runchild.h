@@ -3,6 +3,7 @@
 #define RUNCHILD_H
 
 #include <QByteArray>
+#include <QProcessEnvironment>
 #include <QStringList>
 
 #include <chrono>
@@ -38,6 +39,12 @@ enum class ChildInput
     Silent, //!< a pipe into which nothing is written
     Empty,
 };
+
+/*!
+ * What every tool of the platform is started with: this program's environment, in which the tool speaks English
+ * whatever the user's language is, because this program reads what it prints.
+ */
+QProcessEnvironment toolEnvironment();
 
 /*!
  * Runs the program with the arguments and blocks until it ends, at most for the time given, and before that as long

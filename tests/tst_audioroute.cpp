@@ -6,6 +6,8 @@
 
 #include <QDBusArgument>
 #include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QThread>
@@ -106,8 +108,10 @@ private Q_SLOTS:
     void asksOnlyOnce();
     void switchesTheRadio();
     void radioStaysAsReported();
+    void switchingWaitsForTheAnswer();
     void isSwitchedOffAtDestruction();
     void destroyedWhileWaiting();
+    void destroyedInItsOwnSignal();
     void neverStartsTheService();
     void survivesTheBus();
 
@@ -435,6 +439,22 @@ void tst_AudioRoute::radioStaysAsReported()
     QCOMPARE(spies.counts(), (QList<int>{0, 0, 0}));
 }
 
+void tst_AudioRoute::switchingWaitsForTheAnswer()
+{
+    AudioRoute route;
+    settle();
+    m_daemon->hold(QStringLiteral("Enable"));
+    runDaemonElsewhere();
+    const MessageLog log;
+    QElapsedTimer timer;
+    timer.start();
+    route.setFmRadio(true);
+    // Of a route manager that never answers, the usual 25 seconds of Qt's coarse timers are the end.
+    QVERIFY2(timer.elapsed() >= 23000 && timer.elapsed() < 30000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!route.fmRadio());
+    QCOMPARE(log.all(), QStringList());
+}
+
 void tst_AudioRoute::isSwitchedOffAtDestruction()
 {
     auto route = std::make_unique<AudioRoute>();
@@ -457,6 +477,34 @@ void tst_AudioRoute::destroyedWhileWaiting()
     m_daemon->answerHeld();
     QTest::qWait(50);
     QCOMPARE(log.all(), QStringList());
+}
+
+void tst_AudioRoute::destroyedInItsOwnSignal()
+{
+    startDaemon(state(0x9, 0xa, features({{Radio, 1, 1}, {Radio, 1, 0}, {Radio, 1, 1}})));
+    runDaemonElsewhere();
+    for (const auto signal : {&AudioRoute::wiredOutputConnectedChanged, &AudioRoute::wiredInputConnectedChanged,
+                              &AudioRoute::fmRadioChanged}) {
+        auto *later = new AudioRoute;
+        connect(later, signal, later, &QObject::deleteLater);
+        const QSignalSpy destroyedLater(later, &QObject::destroyed);
+        QTRY_COMPARE(destroyedLater.count(), 1);
+
+        auto *atOnce = new AudioRoute;
+        connect(atOnce, signal, this, [atOnce] { delete atOnce; });
+        const QSignalSpy destroyedAtOnce(atOnce, &QObject::destroyed);
+        QTRY_COMPARE(destroyedAtOnce.count(), 1);
+
+        // By a broadcast.
+        auto *settled = new AudioRoute;
+        QTRY_VERIFY(settled->findChildren<QDBusPendingCallWatcher *>().isEmpty());
+        connect(settled, signal, this, [settled] { delete settled; });
+        const QSignalSpy destroyed(settled, &QObject::destroyed);
+        broadcast(RouteChanged, {QStringLiteral("x"), 0x1u});
+        broadcast(RouteChanged, {QStringLiteral("x"), 0x2u});
+        broadcast(FeatureChanged, {Radio, 1u, 0u});
+        QTRY_COMPARE(destroyed.count(), 1);
+    }
 }
 
 void tst_AudioRoute::neverStartsTheService()

@@ -56,6 +56,8 @@ private Q_SLOTS:
     void isEmptyWithoutTheTool();
     void outputIsLatin1UpToANul();
     void nothingIsTrimmed();
+    void answersInEveryLanguage();
+    void readsListingsOfMegabytes();
     void keepsWhatAHangingToolHasPrinted();
 };
 
@@ -222,6 +224,8 @@ void tst_PaCmd::combinedSources_data()
                                   << true;
     QTest::newRow("separate") << builtin + external << false;
     QTest::newRow("built-in only") << builtin << false;
+    QTest::newRow("names that differ in case")
+        << builtin + object("Source", "Phone.mics", "droid.input.external=true", "input-a") << false;
 }
 
 void tst_PaCmd::combinedSources()
@@ -275,6 +279,30 @@ void tst_PaCmd::nothingIsTrimmed()
 {
     installTool(QStringLiteral("awk"), "printf ' a \\n'");
     QCOMPARE(PaCmd().primarySinkName(), QStringLiteral(" a \n"));
+}
+
+void tst_PaCmd::answersInEveryLanguage()
+{
+    // As the tool prints it, which is translated like any other.
+    writeFile(Scratch + QStringLiteral("sinks"),
+              "\tNimi: phone.sink\n\t\tdroid.output.primary = \"true\"\n\tAktiivinen portti: output-speaker\n");
+    writeFile(Scratch + QStringLiteral("sinks.C"),
+              "\tName: phone.sink\n\t\tdroid.output.primary = \"true\"\n\tActive Port: output-speaker\n");
+    installTool(QStringLiteral("pactl"),
+                "[ \"$LANGUAGE\" = C ] && exec cat /run/kiv-test/$2.C; exec cat /run/kiv-test/$2");
+    QCOMPARE(PaCmd().primarySinkName(), QStringLiteral("phone.sink"));
+    QCOMPARE(PaCmd().primarySinkActivePort(), QStringLiteral("output-speaker"));
+}
+
+void tst_PaCmd::readsListingsOfMegabytes()
+{
+    QByteArray sinks;
+    for (int i = 0; i < 5000; ++i)
+        sinks += object("Sink", "null." + QByteArray::number(i) + QByteArray(1000, 'x'), "", "output-null");
+    sinks += object("Sink", "phone.sink", "droid.output.primary=true", "output-speaker");
+    writeFile(Scratch + QStringLiteral("sinks"), sinks + sinks.left(sinks.size() / 2));
+    QCOMPARE(PaCmd().primarySinkName(), QStringLiteral("phone.sink"));
+    QCOMPARE(PaCmd().primarySinkActivePort(), QStringLiteral("output-speaker"));
 }
 
 void tst_PaCmd::keepsWhatAHangingToolHasPrinted()

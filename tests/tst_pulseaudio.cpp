@@ -70,6 +70,21 @@ Row rowOf(const PulseAudio &model, int row)
 }
 }
 
+/*! Destroys an object at once when it is told to. */
+class Destroyer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Destroyer(QObject *victim) : m_victim(victim) {}
+
+public Q_SLOTS:
+    void destroy() { delete m_victim; }
+
+private:
+    QObject *m_victim;
+};
+
 class tst_PulseAudio : public QObject
 {
     Q_OBJECT
@@ -92,6 +107,9 @@ private Q_SLOTS:
     void pollsAgain();
     void dropsAPollThatStillRuns();
     void isDestroyedDuringAPoll();
+    void isDestroyedByItsOwnSignals_data();
+    void isDestroyedByItsOwnSignals();
+    void readsAListingInEveryLanguage();
     void largeAndOddOutput();
 };
 
@@ -300,6 +318,19 @@ void tst_PulseAudio::signalsOnlyAChangedCount()
     QTRY_COMPARE(resets.count(), 3);
     QCOMPARE(model.count(), 0);
     QCOMPARE(counts.count(), 2);
+
+    // After a failure that was passed over in silence, it is counted from the empty list.
+    installListing(Playing);
+    QMetaObject::invokeMethod(&model, "refresh");
+    QTRY_COMPARE(counts.count(), 3);
+    installTool("exit 1");
+    QMetaObject::invokeMethod(&model, "refresh");
+    QTRY_COMPARE(model.count(), 0);
+    QCOMPARE(counts.count(), 3);
+    installListing(Playing);
+    QMetaObject::invokeMethod(&model, "refresh");
+    QTRY_COMPARE(model.count(), 1);
+    QCOMPARE(counts.count(), 4);
 }
 
 void tst_PulseAudio::resetsOnEveryPoll()
@@ -396,6 +427,44 @@ void tst_PulseAudio::isDestroyedDuringAPoll()
     model.reset();
     QVERIFY(timer.elapsed() < 5000);
     QVERIFY(::kill(pid_t(pid), 0) != 0);
+}
+
+void tst_PulseAudio::isDestroyedByItsOwnSignals_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<QByteArray>("lines");
+    QTest::newRow("reset") << QByteArray(SIGNAL(modelReset())) << QByteArray("cat " + Listing.toUtf8());
+    QTest::newRow("count") << QByteArray(SIGNAL(countChanged())) << QByteArray(":");
+    QTest::newRow("reset by a failing tool") << QByteArray(SIGNAL(modelReset())) << QByteArray("exit 1");
+    QTest::newRow("reset by a missing tool") << QByteArray(SIGNAL(modelReset())) << QByteArray();
+}
+
+void tst_PulseAudio::isDestroyedByItsOwnSignals()
+{
+    QFETCH(QByteArray, signal);
+    QFETCH(QByteArray, lines);
+    installListing(Playing);
+    auto *model = new PulseAudio;
+    QTRY_COMPARE(model->count(), 1);
+    if (lines.isEmpty())
+        QFile::remove(Tool);
+    else
+        installTool(lines);
+    Destroyer destroyer(model);
+    QSignalSpy destroyed(model, &QObject::destroyed);
+    QVERIFY(connect(model, signal.constData(), &destroyer, SLOT(destroy())));
+    QMetaObject::invokeMethod(model, "refresh");
+    QTRY_COMPARE(destroyed.count(), 1);
+    QTest::qWait(50);
+}
+
+void tst_PulseAudio::readsAListingInEveryLanguage()
+{
+    // As the tool prints it, which is translated like any other.
+    writeFile(Listing, Playing);
+    installTool("[ \"$LANGUAGE\" = C ] && exec cat " + Listing.toUtf8() + "; echo 'Ziel-Eingabe #7'");
+    const PulseAudio model;
+    QTRY_COMPARE(model.count(), 1);
 }
 
 void tst_PulseAudio::largeAndOddOutput()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "channelwriter.h"
 #include "files.h"
 #include "messagelog.h"
 #include "metaobject.h"
@@ -15,6 +16,9 @@
 #include <cmath>
 #include <cstring>
 #include <memory>
+
+#include <signal.h>
+#include <sys/resource.h>
 
 namespace
 {
@@ -148,6 +152,9 @@ private Q_SLOTS:
     void recordsWhilePlaying();
     void volumeAndCategory();
     void removesItsFile();
+    void usesOneFormat();
+    void survivesAFullDisk();
+    void survivesWithoutItsFile();
     void survivesTheServersDeath_data();
     void survivesTheServersDeath();
 
@@ -610,6 +617,89 @@ void tst_Recorder::removesItsFile()
         QCOMPARE(recordings().size(), 1);
     }
     QCOMPARE(recordings(), QStringList());
+}
+
+void tst_Recorder::usesOneFormat()
+{
+    Recorder recorder;
+    recorder.record();
+    const QPointer<ChannelWriter> writer = inputOf(recorder)->findChild<ChannelWriter *>();
+    QVERIFY(writer);
+    QCOMPARE(writer->openMode() & QIODevice::ReadWrite, QIODevice::WriteOnly);
+    const QAudioFormat recorded = inputOf(recorder)->format();
+    recorder.play();
+    QVERIFY(!writer);
+    for (const QAudioFormat &format : {recorded, outputOf(recorder)->format()}) {
+        QCOMPARE(format.sampleRate(), 48000);
+        QCOMPARE(format.channelCount(), 2);
+        QCOMPARE(format.sampleSize(), 16);
+        QCOMPARE(format.codec(), QStringLiteral("audio/pcm"));
+        QCOMPARE(format.byteOrder(), QAudioFormat::LittleEndian);
+        QCOMPARE(format.sampleType(), QAudioFormat::SignedInt);
+    }
+}
+
+void tst_Recorder::survivesAFullDisk()
+{
+    // No write goes beyond this size, like beyond the last free block.
+    constexpr rlim_t Room = 50000;
+    rlimit limit;
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    const auto handler = ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{Room, limit.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    const auto back = qScopeGuard([&] {
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        ::signal(SIGXFSZ, handler);
+    });
+
+    const MessageLog log;
+    Recorder recorder;
+    recorder.setInputSource(Recorder::TopMicrophone);
+    recorder.record();
+    QTRY_VERIFY_WITH_TIMEOUT(recording().size() > int(Room) - 20000, 20000);
+    QTest::qWait(500);
+    recorder.stopRecord();
+    QCOMPARE(activePort(), QByteArray("input-first"));
+    // What went onto the disk is there and can be heard.
+    const int size = recording().size();
+    QVERIFY(size > int(Room) - 20000 && size <= int(Room));
+    SoundServer::Listener listener;
+    recorder.play();
+    const auto heard = [&] { return countFrames(listener.frames(), SoundServer::Left, SoundServer::Right); };
+    QTRY_VERIFY_WITH_TIMEOUT(heard() > 4000, 20000);
+    recorder.stop();
+    // With room again, so does the next one.
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    recorder.record();
+    QTRY_VERIFY_WITH_TIMEOUT(recording().size() > int(Room), 20000);
+    QCOMPARE(log.warnings(), QStringList());
+}
+
+void tst_Recorder::survivesWithoutItsFile()
+{
+    const QByteArray folder = qgetenv("TMPDIR");
+    // Nobody, not even root, creates files in there.
+    qputenv("TMPDIR", "/proc");
+    const auto back = qScopeGuard([&] {
+        if (folder.isNull())
+            qunsetenv("TMPDIR");
+        else
+            qputenv("TMPDIR", folder);
+    });
+    const MessageLog log;
+    Recorder recorder;
+    recorder.setInputSource(Recorder::TopMicrophone);
+    recorder.record();
+    QCOMPARE(activePort(), QByteArray("input-back_mic"));
+    QTest::qWait(500);
+    recorder.stopRecord();
+    QCOMPARE(activePort(), QByteArray("input-first"));
+    recorder.play();
+    QTest::qWait(500);
+    recorder.stop();
+    QVERIFY(!outputOf(recorder));
+    QVERIFY(!log.warnings().isEmpty());
 }
 
 void tst_Recorder::survivesTheServersDeath_data()

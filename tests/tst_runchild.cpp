@@ -44,6 +44,7 @@ private Q_SLOTS:
     void passesArgumentsUntouched();
     void collectsAllOutput();
     void discardsStandardError();
+    void speaksEnglish();
     void tellsWhatCannotBeStarted_data();
     void tellsWhatCannotBeStarted();
     void killsWhatTakesTooLong();
@@ -99,6 +100,17 @@ void tst_RunChild::discardsStandardError()
     const ChildResult result = shell("printf out; head -c 300000 /dev/zero >&2; printf put");
     QVERIFY(result.succeeded());
     QCOMPARE(result.output, QByteArray("output"));
+}
+
+void tst_RunChild::speaksEnglish()
+{
+    qputenv("LANGUAGE", "fi:de");
+    const auto back = qScopeGuard([] { qunsetenv("LANGUAGE"); });
+    // The rest of the environment is this program's own.
+    qputenv("KIV_TEST_WORD", "a b");
+    QCOMPARE(shell("printf '%s %s %s' \"$LANGUAGE\" \"$KIV_TEST_WORD\" \"$HOME\"").output,
+             "C a b " + qgetenv("HOME"));
+    QCOMPARE(qgetenv("LANGUAGE"), QByteArray("fi:de"));
 }
 
 void tst_RunChild::tellsWhatCannotBeStarted_data()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "audioroute.h"
 #include "gps.h"
 #include "mce.h"
 #include "messagelog.h"
@@ -8,6 +9,7 @@
 #include <QAbstractEventDispatcher>
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTimerEvent>
 #include <QtTest>
@@ -23,6 +25,7 @@ private Q_SLOTS:
     void zel();
     void gps();
     void usbOtg();
+    void audioRoute();
     void destroyedAtOnce();
 };
 
@@ -105,6 +108,24 @@ void tst_WithoutBus::usbOtg()
     QCOMPARE(log.warnings().count(), 2);
 }
 
+void tst_WithoutBus::audioRoute()
+{
+    MessageLog log;
+    QElapsedTimer timer;
+    timer.start();
+    {
+        AudioRoute route;
+        QVERIFY(log.all().isEmpty());
+        QTRY_COMPARE(log.warnings(), QStringList(QStringLiteral("Audio route GetAll returned error")));
+        route.setFmRadio(true);
+        QVERIFY(!route.fmRadio());
+        QVERIFY(!route.wiredOutputConnected());
+        QVERIFY(!route.wiredInputConnected());
+    }
+    QCOMPARE(log.all().count(), 1);
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+}
+
 void tst_WithoutBus::destroyedAtOnce()
 {
     MessageLog log;
@@ -112,6 +133,7 @@ void tst_WithoutBus::destroyedAtOnce()
         const Mce mce;
         const Zel zel;
         const Gps gps;
+        const AudioRoute audioRoute;
     }
     QCoreApplication::processEvents();
     QVERIFY2(log.all().isEmpty(), qPrintable(log.all().join(QLatin1Char('\n'))));
