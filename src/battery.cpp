@@ -15,12 +15,18 @@ const QString PowerSupplyDirectory = QStringLiteral("/sys/class/power_supply");
 const char BatteryType[] = "Battery";
 const QString ChargerCommand = QStringLiteral("/usr/bin/kiv");
 
+/*! The first line as text, without the blanks around it and without carriage returns. Null as readFirstLine()'s. */
+QByteArray readTextLine(const QString &path)
+{
+    return readFirstLine(path).replace("\r", "").trimmed();
+}
+
 QString findBattery()
 {
     QDirIterator entries(PowerSupplyDirectory, QDir::AllDirs | QDir::NoDotAndDotDot);
     while (entries.hasNext()) {
         const QString path = entries.next();
-        if (readFirstLine(path + QStringLiteral("/type")).trimmed() == BatteryType)
+        if (readTextLine(path + QStringLiteral("/type")) == BatteryType)
             return path;
     }
     return QString();
@@ -115,7 +121,7 @@ QByteArray Battery::readAttribute(const char *name) const
 {
     if (m_devicePath.isEmpty())
         return QByteArray();
-    return readFirstLine(m_devicePath + QLatin1Char('/') + QLatin1String(name)).trimmed();
+    return readTextLine(m_devicePath + QLatin1Char('/') + QLatin1String(name));
 }
 
 double Battery::readNumber(const char *name) const

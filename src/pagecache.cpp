@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "pagecache.h"
 
+#include "sysfile.h"
 #include "uniquefd.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QMutex>
 #include <QString>
@@ -19,35 +21,35 @@
 namespace
 {
 const char UnitMagic[] = {'q', 'v', '4', 'c', 'd', 'a', 't', 'a'};
-constexpr off_t SmallestUnit = 256; // the header that the engine checks is shorter
+constexpr size_t SmallestUnit = 256; // the header that the engine checks is shorter
+constexpr size_t SumLength = 40; // of the page's SHA-1, hexadecimal, which the build puts behind the unit
 
-bool isOlder(const struct stat &left, const struct stat &right)
+// Not the time stamps: a page that is copied or unpacked with its old one replaces a newer page.
+bool isMadeOf(const char *compiled, size_t size, const QString &source)
 {
-    if (left.st_mtim.tv_sec != right.st_mtim.tv_sec)
-        return left.st_mtim.tv_sec < right.st_mtim.tv_sec;
-    return left.st_mtim.tv_nsec < right.st_mtim.tv_nsec;
+    const QByteArray page = readWholeFile(source);
+    const QByteArray sum = QCryptographicHash::hash(page, QCryptographicHash::Sha1).toHex();
+    return !page.isNull() && std::memcmp(compiled + size - SumLength, sum.constData(), SumLength) == 0;
 }
 
 /*! Maps the compiled form of the source for the rest of the process. Null when there is none that can be used. */
 const void *mapCompiled(const QString &source)
 {
-    const QByteArray sourcePath = QFile::encodeName(source);
-    const UniqueFd file(::open((sourcePath + 'c').constData(), O_RDONLY | O_CLOEXEC));
+    const UniqueFd file(::open(QFile::encodeName(source + QLatin1Char('c')).constData(), O_RDONLY | O_CLOEXEC));
     if (!file.isOpen())
         return nullptr;
 
-    struct stat compiledStatus;
-    struct stat sourceStatus;
-    if (::fstat(file.get(), &compiledStatus) != 0 || !S_ISREG(compiledStatus.st_mode)
-        || compiledStatus.st_size < SmallestUnit || ::stat(sourcePath.constData(), &sourceStatus) != 0
-        || isOlder(compiledStatus, sourceStatus))
+    struct stat status;
+    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)
+        || size_t(status.st_size) < SmallestUnit + SumLength)
         return nullptr;
 
-    const auto size = size_t(compiledStatus.st_size);
+    const auto size = size_t(status.st_size);
     void *const mapping = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file.get(), 0);
     if (mapping == MAP_FAILED)
         return nullptr;
-    if (std::memcmp(mapping, UnitMagic, sizeof(UnitMagic)) != 0) {
+    if (std::memcmp(mapping, UnitMagic, sizeof(UnitMagic)) != 0
+        || !isMadeOf(static_cast<const char *>(mapping), size, source)) {
         ::munmap(mapping, size);
         return nullptr;
     }

@@ -47,10 +47,7 @@ QByteArray readUntil(const QString &path, int delimiter)
 
 QByteArray readFirstLine(const QString &path)
 {
-    QByteArray line = readUntil(path, '\n');
-    if (line.contains('\r'))
-        line.replace("\r", "");
-    return line;
+    return readUntil(path, '\n');
 }
 
 QByteArray readWholeFile(const QString &path)

@@ -6,8 +6,8 @@
 #include <QString>
 
 /*!
- * First line of a kernel file or other small file, without its newline and without carriage returns. Null (isNull())
- * when the file cannot be opened or read, empty when it is empty. There is no limit to the length of the line.
+ * First line of a kernel file or other small file, without its newline. Null (isNull()) when the file cannot be opened
+ * or read, empty when it is empty. There is no limit to the length of the line.
  */
 QByteArray readFirstLine(const QString &path);
 

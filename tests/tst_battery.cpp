@@ -289,6 +289,7 @@ void tst_Battery::readsTexts_data()
     QTest::newRow("line") << QByteArray("Not charging\n") << QStringLiteral("Not charging");
     QTest::newRow("no newline") << QByteArray("Good") << QStringLiteral("Good");
     QTest::newRow("blanks") << QByteArray("\t Good \n") << QStringLiteral("Good");
+    QTest::newRow("carriage returns") << QByteArray("\rGo\rod\r\r\n") << QStringLiteral("Good");
     QTest::newRow("case is kept") << QByteArray("gOOD\n") << QStringLiteral("gOOD");
     QTest::newRow("first line") << QByteArray("Good\nDead\n") << QStringLiteral("Good");
     QTest::newRow("empty") << QByteArray("") << QString();

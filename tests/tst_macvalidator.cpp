@@ -87,6 +87,7 @@ void tst_MacValidator::readsBluetoothAddress_data()
     QTest::newRow("usual") << QByteArray("00:11:22:AA:BB:CC\n") << QStringLiteral("00:11:22:aa:bb:cc");
     QTest::newRow("no newline") << QByteArray("00:11:22:AA:BB:CC") << QStringLiteral("00:11:22:aa:bb:cc");
     QTest::newRow("blanks") << QByteArray(" \t00:11\v \r\n") << QStringLiteral("00:11");
+    QTest::newRow("carriage return inside") << QByteArray("00:11\r:22\r\n") << QStringLiteral("00:11\r:22");
     QTest::newRow("first line") << QByteArray("00:11\n22:33\n") << QStringLiteral("00:11");
     QTest::newRow("empty first line") << QByteArray("\n00:11\n") << QString();
     QTest::newRow("empty") << QByteArray("") << QString();

@@ -2,6 +2,7 @@
 #include "files.h"
 #include "pagecache.h"
 
+#include <QCryptographicHash>
 #include <QProcess>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -23,6 +24,17 @@ QByteArray page(int number)
     return "import QtQml 2.15\nQtObject { property int number: " + QByteArray::number(number) + " }\n";
 }
 
+/*! Compiles the page as it stands, for a page that will have the other content. */
+void compile(const QString &path, const QByteArray &sealedFor)
+{
+    const QString compiled = path + QLatin1Char('c');
+    QFile file(compiled);
+    if (QProcess::execute(QStringLiteral(KIV_QMLCACHEGEN), {path, QStringLiteral("-o"), compiled}) != 0
+        || !file.open(QIODevice::Append))
+        qFatal("cannot compile %s", qPrintable(path));
+    file.write(QCryptographicHash::hash(sealedFor, QCryptographicHash::Sha1).toHex());
+}
+
 void setAge(const QString &path, int seconds)
 {
     const struct timespec times[2] = {{::time(nullptr) - seconds, 0}, {::time(nullptr) - seconds, 0}};
@@ -42,7 +54,9 @@ private Q_SLOTS:
 
     void usesCompiledPage();
     void usesCompiledScript();
-    void newerSourceWins();
+    void anotherSourceWins_data();
+    void anotherSourceWins();
+    void timeStampsDoNotCount();
     void ignoresBadCompiledPage_data();
     void ignoresBadCompiledPage();
     void compilesInMemory();
@@ -78,11 +92,8 @@ void tst_PageCache::cleanupTestCase()
 void tst_PageCache::writePage(int source, int compiled)
 {
     writeFile(m_page, page(compiled));
-    QCOMPARE(
-        QProcess::execute(QStringLiteral(KIV_QMLCACHEGEN), {m_page, QStringLiteral("-o"), m_page + QLatin1Char('c')}),
-        0);
+    compile(m_page, page(source));
     writeFile(m_page, page(source));
-    setAge(m_page, 60);
 }
 
 int tst_PageCache::load()
@@ -107,22 +118,37 @@ void tst_PageCache::usesCompiledPage()
 void tst_PageCache::usesCompiledScript()
 {
     const QString script = Folder + QStringLiteral("/script.js");
+    const QByteArray source = ".pragma library\nfunction number() { return 7 }\n";
     writeFile(script, ".pragma library\nfunction number() { return 8 }\n");
-    QCOMPARE(
-        QProcess::execute(QStringLiteral(KIV_QMLCACHEGEN), {script, QStringLiteral("-o"), script + QLatin1Char('c')}),
-        0);
-    writeFile(script, ".pragma library\nfunction number() { return 7 }\n");
-    setAge(script, 60);
+    compile(script, source);
+    writeFile(script, source);
     writeFile(m_page,
               "import QtQml 2.15\nimport \"script.js\" as Script\nQtObject { property int number: Script.number() }\n");
     QCOMPARE(load(), 8);
 }
 
-void tst_PageCache::newerSourceWins()
+void tst_PageCache::anotherSourceWins_data()
+{
+    QTest::addColumn<int>("age");
+    QTest::newRow("newer than what was compiled") << 0;
+    QTest::newRow("older than what was compiled") << 600;
+}
+
+void tst_PageCache::anotherSourceWins()
+{
+    QFETCH(int, age);
+    writePage(3, 4);
+    writeFile(m_page, page(5));
+    setAge(m_page, age);
+    setAge(m_page + QLatin1Char('c'), 300);
+    QCOMPARE(load(), 5);
+}
+
+void tst_PageCache::timeStampsDoNotCount()
 {
     writePage(3, 4);
-    setAge(m_page + QLatin1Char('c'), 120);
-    QCOMPARE(load(), 3);
+    setAge(m_page + QLatin1Char('c'), 600);
+    QCOMPARE(load(), 4);
 }
 
 void tst_PageCache::ignoresBadCompiledPage_data()
@@ -133,13 +159,17 @@ void tst_PageCache::ignoresBadCompiledPage_data()
     QTest::newRow("text") << QByteArray(4000, 'x');
     QTest::newRow("of another version") << QByteArray("qv4cdata").append(QByteArray(4000, '\xff'));
     QTest::newRow("zeros") << QByteArray("qv4cdata").append(QByteArray(4000, '\0'));
+    const QByteArray sum = QCryptographicHash::hash(page(5), QCryptographicHash::Sha1).toHex();
+    QTest::newRow("of another version, sealed") << QByteArray("qv4cdata").append(QByteArray(4000, '\xff')).append(sum);
+    QTest::newRow("zeros, sealed") << QByteArray("qv4cdata").append(QByteArray(4000, '\0')).append(sum);
+    QTest::newRow("text, sealed") << QByteArray(4000, 'x').append(sum);
+    QTest::newRow("nothing but the seal") << sum;
 }
 
 void tst_PageCache::ignoresBadCompiledPage()
 {
     QFETCH(QByteArray, content);
     writeFile(m_page, page(5));
-    setAge(m_page, 60);
     writeFile(m_page + QLatin1Char('c'), content);
     QCOMPARE(load(), 5);
 

@@ -15,6 +15,7 @@
 #include <set>
 #include <thread>
 
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/resource.h>
@@ -25,6 +26,12 @@ namespace
 {
 const QString NoPair = QStringLiteral("Could not create socket pair for TERM signal handler, device state may not be "
                                       "restored on termination.");
+
+const QString NoAction =
+    QStringLiteral("Could not set sigaction for TERM signal handler, device state may not be restored on termination.");
+
+/*! What installing a handler for SIGTERM returns without installing one; 0 lets it through. */
+int refusal = 0;
 
 std::set<int> openDescriptors()
 {
@@ -70,6 +77,16 @@ struct Handler
 };
 }
 
+// Stands before the C library's.
+extern "C" int sigaction(int number, const struct sigaction *action, struct sigaction *previous) noexcept
+{
+    using Function = int (*)(int, const struct sigaction *, struct sigaction *);
+    static const auto next = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, "sigaction"));
+    if (number == SIGTERM && action && refusal != 0)
+        return refusal;
+    return next(number, action, previous);
+}
+
 class tst_SignalHandler : public QObject
 {
     Q_OBJECT
@@ -87,6 +104,8 @@ private Q_SLOTS:
     void keepsErrno();
     void survivesBurst();
     void withoutPairInstallsNothing();
+    void withoutHandlerStaysQuiet_data();
+    void withoutHandlerStaysQuiet();
     void closesPairAndStaysHarmless();
     void canBeMadeAgain();
 };
@@ -231,6 +250,30 @@ void tst_SignalHandler::withoutPairInstallsNothing()
     QVERIFY(termAction().sa_handler == SIG_DFL);
     handler.reset();
     QCOMPARE(openDescriptors(), before);
+}
+
+void tst_SignalHandler::withoutHandlerStaysQuiet_data()
+{
+    QTest::addColumn<int>("result");
+    QTest::addColumn<QStringList>("warnings");
+    // The kernel's way of refusing goes unnoticed.
+    QTest::newRow("negative") << -1 << QStringList();
+    QTest::newRow("positive") << 1 << QStringList(NoAction);
+}
+
+void tst_SignalHandler::withoutHandlerStaysQuiet()
+{
+    QFETCH(int, result);
+    QFETCH(QStringList, warnings);
+    MessageLog log;
+    refusal = result;
+    const Handler it;
+    refusal = 0;
+    QCOMPARE(log.warnings(), warnings);
+    QCOMPARE(log.all(), warnings);
+    QVERIFY(it.notifier);
+    QVERIFY(it.notifier->isEnabled());
+    QVERIFY(termAction().sa_handler == SIG_DFL);
 }
 
 void tst_SignalHandler::closesPairAndStaysHarmless()

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void recognisesWirelessInterfaces_data();
     void recognisesWirelessInterfaces();
     void takesTheFirstByName();
+    void goesByTheNameAtLast();
     void followsLinks();
     void neverAsksAnother();
     void survivesOddAddresses_data();
@@ -79,6 +80,16 @@ void tst_WlanAddress::takesTheFirstByName()
     QCOMPARE(readWlanAddress(), QStringLiteral("00:00:00:00:00:02"));
     makeInterface("Wlan5", "00:00:00:00:00:01\n", "wireless");
     QCOMPARE(readWlanAddress(), QStringLiteral("00:00:00:00:00:01"));
+}
+
+void tst_WlanAddress::goesByTheNameAtLast()
+{
+    makeInterface("eth0", "00:00:00:00:00:01\n", nullptr);
+    makeInterface("wlan1", "00:00:00:00:00:03\n", nullptr);
+    makeInterface("wlan0", "00:00:00:00:00:02\n", nullptr);
+    QCOMPARE(readWlanAddress(), QStringLiteral("00:00:00:00:00:02"));
+    makeInterface("wlp2s0", "00:00:00:00:00:04\n", "phy80211");
+    QCOMPARE(readWlanAddress(), QStringLiteral("00:00:00:00:00:04"));
 }
 
 void tst_WlanAddress::followsLinks()
