@@ -1263,8 +1263,9 @@
         <translation>שני הצדדים</translation>
     </message>
     <message id="kiv-microphone-missing">
-        <source>The sound server does not answer, or it knows no built-in microphone.</source>
-        <translation>שרת הקול אינו עונה, או שאינו מכיר מיקרופון מובנה.</translation>
+        <source>The sound server has no built-in microphone, or its tool does not answer.</source>
+        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
+        <translation type="unfinished">שרת הקול אינו עונה, או שאינו מכיר מיקרופון מובנה.</translation>
     </message>
     <message id="kiv-microphone-hint">
         <source>Pass unlocks when a recording has been played back.</source>
@@ -1291,8 +1292,9 @@
         <translation>השמעה חוזרת</translation>
     </message>
     <message id="kiv-sound-missing">
-        <source>The sound server does not answer, or it has no main output.</source>
-        <translation>שרת הקול אינו עונה, או שאין לו יציאה ראשית.</translation>
+        <source>The sound server has no main output, or its tool does not answer.</source>
+        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
+        <translation type="unfinished">שרת הקול אינו עונה, או שאין לו יציאה ראשית.</translation>
     </message>
     <message id="kiv-sound-hint">
         <source>Pass unlocks when every sound has been played.</source>
@@ -1718,10 +1720,6 @@
     <message id="kiv-usb-otg-late">
         <source>The system has not announced any drive.</source>
         <translation>המערכת לא הודיעה על שום כונן.</translation>
-    </message>
-    <message id="kiv-usb-otg-late-advice">
-        <source>If it should have: try another drive and adapter, then choose Fail.</source>
-        <translation>אם הייתה צריכה להודיע: נסו כונן ומתאם אחרים, ואז בחרו &quot;נכשל&quot;.</translation>
     </message>
     <message id="kiv-usb-otg-drive">
         <source>USB drive</source>
@@ -2540,6 +2538,85 @@
     <message id="kiv-verdict-skip">
         <source>Skip</source>
         <translation>דילוג</translation>
+    </message>
+    <message id="kiv-microphone-unplayed">
+        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-unreached">
+        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-putting-back">
+        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-no-level">
+        <source>The phone shows no level. Listen to the recording afterwards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-microphone-silent">
+        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-side-left">
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-side-right">
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-side-none">
+        <source>Neither, or I cannot tell</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-wrong">
+        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
+        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-good">
+        <source>The operator heard every tone from its side: %1 of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-question">
+        <source>From which side does the tone come? Question %1 of %2</source>
+        <extracomment>Number of this question and of all of them</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-again">
+        <source>Play the tone again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-play">
+        <source>Play the tone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-unswitched">
+        <source>The sound server does not switch to the output %1.</source>
+        <extracomment>The name of the output in the sound server</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sides-hint">
+        <source>Answer from which side each tone comes: the answers are the verdict.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-sound-lost">
+        <source>The sound server takes no more sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-bluetooth-searched">
+        <source>The address is in order, and the radio searched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-fm-radio-working">
+        <source>Waiting for the audio policy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-found">
+        <source>The address is in order, and the radio was found.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
