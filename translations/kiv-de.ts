@@ -2610,6 +2610,107 @@
         <source>Skip</source>
         <translation>Auslassen</translation>
     </message>
+    <message id="kiv-camera-dark">
+        <source>The camera delivers no picture.</source>
+        <translation>Die Kamera liefert kein Bild.</translation>
+    </message>
+    <message id="kiv-camera-instructions">
+        <source>Move the phone a little and watch the picture. Tap it to see it large.</source>
+        <translation>Bewegen Sie das Telefon ein wenig und beobachten Sie das Bild. Tippen Sie darauf, um es groß zu sehen.</translation>
+    </message>
+    <message id="kiv-camera-working">
+        <source>Looking for the camera</source>
+        <translation>Kamera wird gesucht</translation>
+    </message>
+    <message id="kiv-camera-question">
+        <source>What does the picture do when you move the phone?</source>
+        <translation>Was tut das Bild, wenn Sie das Telefon bewegen?</translation>
+    </message>
+    <message id="kiv-camera-live">
+        <source>It follows</source>
+        <translation>Es folgt</translation>
+    </message>
+    <message id="kiv-camera-still">
+        <source>It stands still</source>
+        <translation>Es steht still</translation>
+    </message>
+    <message id="kiv-camera-light">
+        <source>Does the light beside the camera burn?</source>
+        <translation>Brennt das Licht neben der Kamera?</translation>
+    </message>
+    <message id="kiv-camera-stains">
+        <source>Are there stains, stripes or wrong colours in the picture?</source>
+        <translation>Sind im Bild Flecken, Streifen oder falsche Farben?</translation>
+    </message>
+    <message id="kiv-camera-stains-bad">
+        <source>The picture has stains, stripes or wrong colours.</source>
+        <translation>Das Bild hat Flecken, Streifen oder falsche Farben.</translation>
+    </message>
+    <message id="kiv-camera-sharp">
+        <source>Is it sharp?</source>
+        <translation>Ist es scharf?</translation>
+    </message>
+    <message id="kiv-camera-sharp-bad">
+        <source>The picture is not sharp.</source>
+        <translation>Das Bild ist nicht scharf.</translation>
+    </message>
+    <message id="kiv-camera-flash">
+        <source>The camera lets nobody switch its light. Take a picture with flash in the phone&apos;s own camera program: does it flash?</source>
+        <translation>Die Kamera lässt ihr Licht nicht schalten. Machen Sie mit der Kamera-App des Telefons ein Bild mit Blitz: Blitzt es?</translation>
+    </message>
+    <message id="kiv-camera-flash-bad">
+        <source>The camera does not flash.</source>
+        <translation>Die Kamera blitzt nicht.</translation>
+    </message>
+    <message id="kiv-camera-good">
+        <source>The operator saw a live picture without faults.</source>
+        <translation>Der Prüfer hat ein bewegtes Bild ohne Fehler gesehen.</translation>
+    </message>
+    <message id="kiv-camera-back-missing">
+        <source>No back camera was found.</source>
+        <translation>Es wurde keine Rückkamera gefunden.</translation>
+    </message>
+    <message id="kiv-camera-front-missing">
+        <source>No front camera was found.</source>
+        <translation>Es wurde keine Frontkamera gefunden.</translation>
+    </message>
+    <message id="kiv-video-stopped">
+        <source>The video stopped: %1</source>
+        <translation>Das Video blieb stehen: %1</translation>
+    </message>
+    <message id="kiv-video-missing">
+        <source>The system has no decoder for the test video (%1): install one, or test with a video of the phone&apos;s own.</source>
+        <extracomment>The names of the codecs that were tried</extracomment>
+        <translation>Das System kann das Testvideo nicht dekodieren (%1): Installieren Sie einen Decoder oder prüfen Sie mit einem eigenen Video des Telefons.</translation>
+    </message>
+    <message id="kiv-video-instructions">
+        <source>Watch the video and count the squares that cross the picture.</source>
+        <translation>Sehen Sie das Video an und zählen Sie die Quadrate, die durch das Bild laufen.</translation>
+    </message>
+    <message id="kiv-video-question">
+        <source>How many squares crossed the picture?</source>
+        <translation>Wie viele Quadrate liefen durch das Bild?</translation>
+    </message>
+    <message id="kiv-video-jerk">
+        <source>Did the picture jerk, tear or show blocks?</source>
+        <translation>Hat das Bild geruckelt, war es zerrissen oder zeigte es Klötzchen?</translation>
+    </message>
+    <message id="kiv-video-jerk-bad">
+        <source>The video jerks, tears or shows blocks.</source>
+        <translation>Das Video ruckelt, ist zerrissen oder zeigt Klötzchen.</translation>
+    </message>
+    <message id="kiv-video-good">
+        <source>The operator saw the video run smoothly.</source>
+        <translation>Der Prüfer hat das Video flüssig laufen sehen.</translation>
+    </message>
+    <message id="kiv-video-format">
+        <source>Decoder</source>
+        <translation>Decoder</translation>
+    </message>
+    <message id="kiv-video-played">
+        <source>Played</source>
+        <translation>Abgespielt</translation>
+    </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
         <translation>Die Adresse ist in Ordnung, und das Funkteil hat gesucht.</translation>

@@ -2595,6 +2595,107 @@
         <source>Skip</source>
         <translation>Ohita</translation>
     </message>
+    <message id="kiv-camera-dark">
+        <source>The camera delivers no picture.</source>
+        <translation>Kamera ei anna kuvaa.</translation>
+    </message>
+    <message id="kiv-camera-instructions">
+        <source>Move the phone a little and watch the picture. Tap it to see it large.</source>
+        <translation>Liikuta puhelinta hieman ja katso kuvaa. Napauta sitä, niin näet sen suurena.</translation>
+    </message>
+    <message id="kiv-camera-working">
+        <source>Looking for the camera</source>
+        <translation>Kameraa etsitään</translation>
+    </message>
+    <message id="kiv-camera-question">
+        <source>What does the picture do when you move the phone?</source>
+        <translation>Mitä kuva tekee, kun liikutat puhelinta?</translation>
+    </message>
+    <message id="kiv-camera-live">
+        <source>It follows</source>
+        <translation>Se seuraa</translation>
+    </message>
+    <message id="kiv-camera-still">
+        <source>It stands still</source>
+        <translation>Se pysyy paikallaan</translation>
+    </message>
+    <message id="kiv-camera-light">
+        <source>Does the light beside the camera burn?</source>
+        <translation>Palaako kameran vieressä valo?</translation>
+    </message>
+    <message id="kiv-camera-stains">
+        <source>Are there stains, stripes or wrong colours in the picture?</source>
+        <translation>Onko kuvassa läiskiä, raitoja tai vääriä värejä?</translation>
+    </message>
+    <message id="kiv-camera-stains-bad">
+        <source>The picture has stains, stripes or wrong colours.</source>
+        <translation>Kuvassa on läiskiä, raitoja tai vääriä värejä.</translation>
+    </message>
+    <message id="kiv-camera-sharp">
+        <source>Is it sharp?</source>
+        <translation>Onko se terävä?</translation>
+    </message>
+    <message id="kiv-camera-sharp-bad">
+        <source>The picture is not sharp.</source>
+        <translation>Kuva ei ole terävä.</translation>
+    </message>
+    <message id="kiv-camera-flash">
+        <source>The camera lets nobody switch its light. Take a picture with flash in the phone&apos;s own camera program: does it flash?</source>
+        <translation>Kameran valoa ei voi kytkeä. Ota puhelimen omalla kamerasovelluksella kuva salaman kanssa: välähtääkö se?</translation>
+    </message>
+    <message id="kiv-camera-flash-bad">
+        <source>The camera does not flash.</source>
+        <translation>Kamera ei välähdä.</translation>
+    </message>
+    <message id="kiv-camera-good">
+        <source>The operator saw a live picture without faults.</source>
+        <translation>Testaaja näki elävän kuvan ilman vikoja.</translation>
+    </message>
+    <message id="kiv-camera-back-missing">
+        <source>No back camera was found.</source>
+        <translation>Takakameraa ei löytynyt.</translation>
+    </message>
+    <message id="kiv-camera-front-missing">
+        <source>No front camera was found.</source>
+        <translation>Etukameraa ei löytynyt.</translation>
+    </message>
+    <message id="kiv-video-stopped">
+        <source>The video stopped: %1</source>
+        <translation>Video pysähtyi: %1</translation>
+    </message>
+    <message id="kiv-video-missing">
+        <source>The system has no decoder for the test video (%1): install one, or test with a video of the phone&apos;s own.</source>
+        <extracomment>The names of the codecs that were tried</extracomment>
+        <translation>Järjestelmä ei osaa purkaa testivideota (%1): asenna purkaja tai testaa puhelimen omalla videolla.</translation>
+    </message>
+    <message id="kiv-video-instructions">
+        <source>Watch the video and count the squares that cross the picture.</source>
+        <translation>Katso video ja laske kuvan poikki kulkevat neliöt.</translation>
+    </message>
+    <message id="kiv-video-question">
+        <source>How many squares crossed the picture?</source>
+        <translation>Montako neliötä kulki kuvan poikki?</translation>
+    </message>
+    <message id="kiv-video-jerk">
+        <source>Did the picture jerk, tear or show blocks?</source>
+        <translation>Nykikö kuva, repeilikö se tai näkyikö siinä palikoita?</translation>
+    </message>
+    <message id="kiv-video-jerk-bad">
+        <source>The video jerks, tears or shows blocks.</source>
+        <translation>Video nykii, repeilee tai näyttää palikoita.</translation>
+    </message>
+    <message id="kiv-video-good">
+        <source>The operator saw the video run smoothly.</source>
+        <translation>Testaaja näki videon sujuvana.</translation>
+    </message>
+    <message id="kiv-video-format">
+        <source>Decoder</source>
+        <translation>Purkaja</translation>
+    </message>
+    <message id="kiv-video-played">
+        <source>Played</source>
+        <translation>Toistettu</translation>
+    </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
         <translation>Osoite on kunnossa, ja radio etsi.</translation>

@@ -68,10 +68,10 @@ var rows = [
     { name: "AudioPlayMusicHeadset", title: QT_TRID_NOOP("kiv-test-headset-music"), needs: ["Headset"], page: "AudioPlayMusicHeadset.qml",
       glyph: "headset", kind: "guided", seconds: 20, timeout: 80 },
     //% "Front camera"
-    { name: "VerificationFrontCamera", title: QT_TRID_NOOP("kiv-test-front-camera"), needs: ["FrontCamera"], page: "",
+    { name: "VerificationFrontCamera", title: QT_TRID_NOOP("kiv-test-front-camera"), needs: ["FrontCamera"], page: "VerificationFrontCamera.qml",
       glyph: "camera", kind: "guided", seconds: 20, timeout: 80, alone: true },
     //% "Back camera"
-    { name: "VerificationBackCamera", title: QT_TRID_NOOP("kiv-test-back-camera"), needs: ["BackCamera"], page: "",
+    { name: "VerificationBackCamera", title: QT_TRID_NOOP("kiv-test-back-camera"), needs: ["BackCamera"], page: "VerificationBackCamera.qml",
       glyph: "camera", kind: "guided", seconds: 20, timeout: 80, alone: true, runIn: 2 },
     //% "Wi-Fi"
     { name: "VerificationWifi", title: QT_TRID_NOOP("kiv-test-wifi"), needs: ["Wifi"], page: "VerificationWifi.qml",
@@ -116,7 +116,7 @@ var rows = [
     { name: "VerificationUsbOtg", title: QT_TRID_NOOP("kiv-test-usb-otg"), needs: ["UsbOtg"], page: "VerificationUsbOtg.qml",
       glyph: "usb", kind: "measured", seconds: 30, timeout: 120 },
     //% "Video playback"
-    { name: "VerificationVideoPlayback", title: QT_TRID_NOOP("kiv-test-video"), needs: ["VideoPlayback"], page: "",
+    { name: "VerificationVideoPlayback", title: QT_TRID_NOOP("kiv-test-video"), needs: ["VideoPlayback"], page: "VerificationVideoPlayback.qml",
       glyph: "video", kind: "guided", seconds: 30, timeout: 120, alone: true, runIn: 5 },
     //% "Battery resistance"
     { name: "VerificationBatteryResistance", title: QT_TRID_NOOP("kiv-test-battery-resistance"), needs: ["Battery"], page: "VerificationBatteryResistance.qml",

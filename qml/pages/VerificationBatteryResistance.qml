@@ -11,11 +11,12 @@ import "../controls"
 TestPage {
     id: page
 
-    /*! The voltage still creeps for a few seconds after the current has changed. */
-    readonly property int settleSeconds: 4
+    /*! One a second; the voltage still creeps for a few after the current has changed. */
+    readonly property int settleSamples: 4
     readonly property int samplesWanted: 6
     /*! At the latest then, the charger must have been obeyed and enough been measured. */
-    readonly property int phaseSeconds: 24
+    readonly property int phaseSamples: 24
+    property int sampleMs: 1000
     /*! Below this step of the current, noise and rounding of the gauge would be the result, mA. */
     readonly property real leastStep: 200
     /*! In milliohms. A new cell with its protection has 50 to 200, a worn one several times as much. */
@@ -62,7 +63,7 @@ TestPage {
         }
         if (phase === "done")
             return;
-        if (ticks >= phaseSeconds) {
+        if (ticks >= phaseSamples) {
             finish();
             return;
         }
@@ -75,7 +76,7 @@ TestPage {
                 enter("plug");
             return;
         }
-        if (++steady <= settleSeconds)
+        if (++steady <= settleSamples)
             return;
         list.push(reading);
         if (list.length < samplesWanted)
@@ -159,7 +160,7 @@ TestPage {
     }
     Timer {
         id: poll
-        interval: 1000
+        interval: page.sampleMs
         repeat: true
         onTriggered: page.sample()
     }

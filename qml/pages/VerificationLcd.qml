@@ -14,6 +14,7 @@ TestPage {
     readonly property var pictures: ["white", "black", "red", "green", "blue", "greys", "colours", "fine", "coarse"]
     /*! After so long a picture goes by itself, so that a dead touch panel does not keep it. */
     readonly property int pictureMs: 10000
+    readonly property int unattendedMs: 2500
     readonly property int dotsMs: 6000
     readonly property int mostDots: 9
     /*! Ink and paper for the dots. */
@@ -28,7 +29,7 @@ TestPage {
     function showPictures() {
         picture = 0;
         fullScreen = true;
-        next.interval = pictureMs;
+        next.interval = unattended ? unattendedMs : pictureMs;
         next.restart();
     }
 
@@ -43,6 +44,10 @@ TestPage {
         if (picture + 1 < pictures.length) {
             ++picture;
             next.restart();
+        } else if (unattended) {
+            // Round and round, for as long as the panel is to work.
+            exercised = true;
+            showPictures();
         } else if (challenge.solved) {
             next.stop();
             fullScreen = false;

@@ -12,6 +12,7 @@ TestPage {
     id: page
 
     readonly property int whiteMs: 10000
+    readonly property int unattendedMs: 3000
     readonly property int beforeMs: 1000
     readonly property int afterMs: 1500
     readonly property real middle: 0.55
@@ -32,7 +33,11 @@ TestPage {
     function advance() {
         if (!isOpen)
             return;
-        if (phase === "white") {
+        if (unattended) {
+            // From dark to bright and back, for as long as the panel is to work.
+            exercised = exercised || level < 1;
+            enter("white", level < 1 ? 1 : 0.1, unattendedMs);
+        } else if (phase === "white") {
             if (challenge.solved)
                 leaveFullScreen();
             else
@@ -56,7 +61,7 @@ TestPage {
     //% "Pass unlocks when you have answered the questions."
     evidenceHint: qsTrId("kiv-guided-hint")
 
-    onOpened: enter("white", 1, whiteMs)
+    onOpened: enter("white", 1, unattended ? unattendedMs : whiteMs)
     onClosing: {
         challenge.stop();
         leaveFullScreen();
