@@ -8,11 +8,11 @@ SoundPage {
 
     port: "output-wired_headphone"
     ready: route.wiredOutputConnected
-    instructions: ready
-                  //% "Play each sound and listen to the headset: it must come from the side that its button names."
-                  ? qsTrId("kiv-headset-music-instructions")
-                  //% "Plug a headset in."
-                  : qsTrId("kiv-headset-music-instructions-plug")
+    guidance: ready
+              //% "Play each sound and listen to the headset: it must come from the side that its button names."
+              ? qsTrId("kiv-headset-music-instructions")
+              //% "Plug a headset in."
+              : qsTrId("kiv-headset-music-instructions-plug")
     measurements: [plugged]
     asksForSides: true
     sounds: [

@@ -5,7 +5,7 @@ import "../controls"
 SoundPage {
     port: "output-speaker"
     //% "Play the tune and listen to the loudspeaker: every tone must be clear, without rattling."
-    instructions: qsTrId("kiv-speaker-music-instructions")
+    guidance: qsTrId("kiv-speaker-music-instructions")
     //% "Play the tune"
     sounds: [{ name: "tune", text: qsTrId("kiv-sound-tune"), file: "tune.wav", ms: 4000 }]
 }

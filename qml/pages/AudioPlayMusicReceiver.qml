@@ -5,7 +5,7 @@ import "../controls"
 SoundPage {
     port: "output-earpiece"
     //% "Play the tune and hold the phone to your ear: it must come from the earpiece only."
-    instructions: qsTrId("kiv-receiver-instructions")
+    guidance: qsTrId("kiv-receiver-instructions")
     //% "Play the tune"
     sounds: [{ name: "tune", text: qsTrId("kiv-sound-tune"), file: "tune.wav", ms: 4000 }]
 }

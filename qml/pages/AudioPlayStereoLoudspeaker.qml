@@ -5,7 +5,7 @@ import "../controls"
 SoundPage {
     port: "output-speaker"
     //% "Play each sound: it must come from the side that its button names."
-    instructions: qsTrId("kiv-speaker-stereo-instructions")
+    guidance: qsTrId("kiv-speaker-stereo-instructions")
     asksForSides: true
     sounds: [
         //% "Left: low tone"

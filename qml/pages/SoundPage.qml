@@ -14,6 +14,8 @@ TestPage {
     property string port
     /*! A list of {name, text, file, ms}; the operator must have played all of them. */
     property var sounds: []
+    /*! What the operator has to do with them. */
+    property string guidance
     /*! The page is ready to play: a headset is plugged in. */
     property bool ready: true
     /*! Whether the operator is asked from which side a tone comes. His answers are the verdict then. */
@@ -26,6 +28,7 @@ TestPage {
     /*! The server has gone since the page was opened. */
     property bool lost: false
     property bool prepared: false
+    readonly property bool asking: asksForSides && missing === "" && allPlayed
     readonly property bool allPlayed: sounds.every(function(entry) { return played.indexOf(entry.name) >= 0; })
 
     function prepare() {
@@ -58,8 +61,10 @@ TestPage {
         playing = "";
     }
 
+    // The question takes its place.
+    instructions: asking && ready ? "" : guidance
     evidence: missing === "" && !lost && !asksForSides && allPlayed
-    evidenceHint: asksForSides && allPlayed
+    evidenceHint: asking
                   //% "Answer from which side each tone comes: the answers are the verdict."
                   ? qsTrId("kiv-sides-hint")
                   //% "Pass unlocks when every sound has been played."
@@ -106,6 +111,19 @@ TestPage {
         detail: qsTrId("kiv-sound-unreached")
     }
 
+    Loader {
+        width: parent.width
+        active: page.asksForSides
+        visible: page.asking
+        sourceComponent: SideQuestions {
+            objectName: "sides"
+            enabled: page.isOpen && page.ready && page.verdict === ""
+            onPlayRequested: page.play("side", file, 800)
+            onRight: page.judge(FactoryUtils.Pass, reason)
+            onWrong: page.judge(FactoryUtils.Fail, reason)
+        }
+    }
+
     Column {
         width: parent.width
         spacing: Theme.gap
@@ -129,19 +147,6 @@ TestPage {
                         page.play(modelData.name, modelData.file, modelData.ms);
                 }
             }
-        }
-    }
-
-    Loader {
-        width: parent.width
-        active: page.asksForSides
-        visible: active && page.missing === "" && page.allPlayed
-        sourceComponent: SideQuestions {
-            objectName: "sides"
-            enabled: page.isOpen && page.ready && page.verdict === ""
-            onPlayRequested: page.play("side", file, 800)
-            onRight: page.judge(FactoryUtils.Pass, reason)
-            onWrong: page.judge(FactoryUtils.Fail, reason)
         }
     }
 }

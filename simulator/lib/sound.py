@@ -19,6 +19,7 @@ The first port is active at first, the first sink and source are the server's de
 
 import os
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -37,6 +38,7 @@ class Sound:
         self.uid = uid
         self.server = None
         self.streams = {}
+        self.ports = {}
         path = os.path.join(phone.folder, 'sound.ini')
         self.objects = read_ini(path) if os.path.exists(path) else {}
         os.makedirs(PORTS)
@@ -79,7 +81,7 @@ class Sound:
                 with open('%s/%s' % (PORTS, name), 'w') as file:
                     for port in ports:
                         file.write('%s %s\n' % (port[0], port[0].partition('-')[2].replace('_', ' ').capitalize()))
-                self.write_active(name, ports[0][0])
+                self.ports[name] = [port[0] for port in ports]
         lines += ['load-module module-native-protocol-unix auth-anonymous=1 auth-cookie-enabled=no', 'load-module module-cli-protocol-unix']
         lines += ['set-default-%s %s' % item for item in defaults.items()]
         with open(FOLDER + '/server.pa', 'w') as file:
@@ -112,6 +114,8 @@ class Sound:
         for name in self.tones:
             if os.path.exists('%s/%s' % (FOLDER, name)):
                 os.unlink('%s/%s' % (FOLDER, name))
+        for name, ports in self.ports.items():
+            self.write_active(name, ports[0])
         with open(FOLDER + '/server.log', 'a') as log:
             self.server = self.popen(['pulseaudio', '-n', '--daemonize=no', '--exit-idle-time=-1', '--disable-shm=yes',
                                       '--realtime=no', '--high-priority=no', '-F',
@@ -133,6 +137,18 @@ class Sound:
             process.kill()
             process.wait()
         self.streams.clear()
+
+    def signal(self, number):
+        if not self.running():
+            raise Failure('the sound server is not running')
+        self.server.send_signal(number)
+
+    def freeze(self):
+        """It keeps its connections and answers nobody."""
+        self.signal(signal.SIGSTOP)
+
+    def thaw(self):
+        self.signal(signal.SIGCONT)
 
     def start_stream(self, name):
         if not self.running():

@@ -24,6 +24,8 @@ COMMANDS = [
     Command('sound', '', 'show the sound server, the active ports and the routes', show),
     Command('sound stop', '', 'let the sound server crash', lambda phone: phone.sound.stop()),
     Command('sound start', '', 'start it again', lambda phone: phone.sound.start()),
+    Command('sound freeze', '', 'keep it from answering', lambda phone: phone.sound.freeze()),
+    Command('sound thaw', '', 'let it answer again', lambda phone: phone.sound.thaw()),
     Command('stream', '', 'show the streams that play besides Kiv', show_streams),
     Command('stream start', '[NAME]', 'let a program play (Music)',
             lambda phone, name='Music': phone.sound.start_stream(name)),

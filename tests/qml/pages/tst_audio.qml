@@ -191,7 +191,8 @@ Driver {
         }
         compare(page.verdict, FactoryUtils.Pass);
         verify(page.reason.indexOf("4 of 4") >= 0, page.reason);
-        compare(Phone.sounding, "");
+        verify(Phone.sounding.indexOf("beep-") < 0);
+        compare(page.playing, "");
     }
 
     function test_wrongSideFails_data() {
@@ -296,8 +297,13 @@ Driver {
         verify(!page.evidence);
     }
 
-    function test_serverThatWasStartedAnew() {
-        Phone.streams = [];
+    function test_serverThatWasStartedAnew_data() {
+        return [{ tag: "nothing" }, { tag: "paused", corked: true }];
+    }
+
+    function test_serverThatWasStartedAnew(data) {
+        Phone.streams = data.corked ? [{ mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%",
+                                         corked: true, muted: false }] : [];
         openTest("VerificationAudio2Mic");
         press("record");
         tryVerify(function() { return find("trouble").visible; }, 15000);
@@ -322,5 +328,30 @@ Driver {
         tryCompare(page, "refused", true);
         verify(!page.evidence);
         verify(!find("pass").enabled);
+    }
+
+    function texts(item) {
+        var found = item.visible && item.text ? [item.text] : [];
+        for (var i = 0; i < item.children.length; ++i)
+            found = found.concat(texts(item.children[i]));
+        return found;
+    }
+
+    function test_streams() {
+        Phone.streams = [
+            { mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%", corked: false, muted: true },
+            { mediaName: "\"Sink Input \"", applicationName: undefined, volumeInfo: "", corked: true, muted: false }
+        ];
+        openTest("SystemState");
+        var seen = texts(page);
+        verify(seen.indexOf("Player, A song, 100% 80%, muted") >= 0, seen.join("|"));
+        verify(seen.indexOf("Sink Input , paused") >= 0 || seen.indexOf("Sink Input, paused") >= 0, seen.join("|"));
+        shell.leaveTest();
+    }
+
+    function test_noStreams() {
+        Phone.streams = [];
+        openTest("SystemState");
+        verify(texts(page).join("|").indexOf("sound server") < 0);
     }
 }
