@@ -33,6 +33,8 @@ Shell {
     startPage: "home"
     property string wanted
     property string said
+    property real last: Date.now()
+    property real stall: 0
     function look() {
         var request = new XMLHttpRequest()
         request.onreadystatechange = function() {
@@ -40,6 +42,7 @@ Shell {
             if (request.readyState !== XMLHttpRequest.DONE || text === "" || text === shell.wanted)
                 return
             shell.wanted = text
+            shell.stall = 0
             var words = text.split(" ")
             if (words[1] === "open") {
                 shell.startPage = words[2]
@@ -72,11 +75,15 @@ Shell {
         repeat: true
         onTriggered: {
             shell.look()
+            // How long the interface stood still at most, in whole seconds.
+            shell.stall = Math.max(shell.stall, Math.floor((Date.now() - shell.last) / 1000))
+            shell.last = Date.now()
             var page = shell.screen && shell.screen.page ? shell.screen.page : null
             var state = { wanted: shell.wanted, open: !!page && page.isOpen, missing: page ? page.missing : "",
                           verdict: page ? page.verdict : "", reason: page ? page.reason : "",
                           left: page ? page.remaining : 0, due: page && page.phase !== undefined ? page.phase : "",
-                          evidence: !!page && page.evidence,
+                          evidence: !!page && page.evidence, stall: shell.stall,
+                          passable: !!page && shell.screen.passUnlocked === true,
                           values: page ? page.measurements.map(function(m) { return m.valueText }) : [] }
             var more = ["prepared", "played", "playing", "lost", "found", "heard", "trouble", "refused"]
             more.forEach(function(name) {
@@ -94,9 +101,9 @@ Shell {
 
 
 class Phone:
-    """A simulated phone that shows one page after the other."""
+    """A simulated phone that shows one page after the other. Further options are those of simulator/start."""
 
-    def __init__(self, name, command=('/usr/bin/kiv',), stdout=subprocess.DEVNULL):
+    def __init__(self, name, *options, command=('/usr/bin/kiv',), stdout=subprocess.DEVNULL):
         self.identifier = 'pages-%d-%d-%s' % (os.getpid(), next(SERIAL), name)
         self.folder = tempfile.mkdtemp()
         page = self.folder + '/usr/share/kiv/main.qml'
@@ -109,7 +116,7 @@ class Phone:
                            QT_QPA_GENERIC_PLUGINS='evdevkeyboard:/dev/input/event1')
         self.process = subprocess.Popen(
             [SIMULATOR + '/start', '--phone', name, '--phone-id', self.identifier, '--install', STAGE, '--layer',
-             self.folder, '--absent', '/usr/share/kiv/main.qmlc', '--', *command], env=environment,
+             self.folder, '--absent', '/usr/share/kiv/main.qmlc', *options, '--', *command], env=environment,
             stdin=subprocess.DEVNULL, stdout=stdout, stderr=subprocess.PIPE, text=stdout == subprocess.DEVNULL)
         self.lines = []
         self.states = queue.Queue()

@@ -2719,5 +2719,9 @@
         <source>The address is in order, and the radio was found.</source>
         <translation>Die Adresse ist in Ordnung, und das Funkteil wurde gefunden.</translation>
     </message>
+    <message id="kiv-wifi-working">
+        <source>Asking for the Wi-Fi radio</source>
+        <translation>Das WLAN-Funkteil wird abgefragt</translation>
+    </message>
 </context>
 </TS>

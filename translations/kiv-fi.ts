@@ -2704,5 +2704,9 @@
         <source>The address is in order, and the radio was found.</source>
         <translation>Osoite on kunnossa, ja radio löytyi.</translation>
     </message>
+    <message id="kiv-wifi-working">
+        <source>Asking for the Wi-Fi radio</source>
+        <translation>Kysytään Wi-Fi-radiolta</translation>
+    </message>
 </context>
 </TS>

@@ -2719,5 +2719,9 @@
         <source>The address is in order, and the radio was found.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-wifi-working">
+        <source>Asking for the Wi-Fi radio</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

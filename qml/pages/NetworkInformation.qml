@@ -4,7 +4,7 @@ import QtSystemInfo 5.0
 
 /*!
  * What the system tells of its networks. In a file of its own, because not every phone has the module: pages load it, and
- * do without where that fails. What it tells of modems it gets from the telephony service, for which it waits.
+ * do without where that fails. When it is made, and for what it tells of modems, it waits for the telephony service.
  */
 NetworkInfo {
     function wirelessCount() {

@@ -9,25 +9,44 @@ TestPage {
 
     readonly property var search: module.item
     readonly property bool blind: module.status === Loader.Error
+    property bool searching: false
     /*! The radio searched without an error. */
     property bool searched: false
     property var found: []
 
-    function begin() {
-        searched = false;
-        found = [];
+    // A new one each time: a search keeps its error, and does not notice when the service goes.
+    function withSearch(job) {
         //% "Asking for the Bluetooth radio"
         blocking(qsTrId("kiv-bluetooth-working"), function() {
-            // Anew: a search that is over keeps its error.
+            searching = false;
             module.active = false;
             module.active = true;
-            if (blind) {
-                if (!address.good)
-                    judgeReadings("");
-                return;
-            }
+            if (!blind)
+                job();
+            else if (!address.good)
+                judgeReadings("");
+        });
+    }
+
+    function begin() {
+        withSearch(function() {
+            searched = false;
+            found = [];
+            searching = true;
             search.running = true;
             follow();
+        });
+    }
+
+    // That a search found nothing counts if the radio would search again.
+    function confirm() {
+        if (!isOpen)
+            return;
+        withSearch(function() {
+            search.running = true;
+            searched = search.trouble === "";
+            follow();
+            search.running = false;
         });
     }
 
@@ -35,8 +54,7 @@ TestPage {
         if (!isOpen || search === null || verdict !== "")
             return;
         radio.value = search.trouble === "" || search.off;
-        if (search.trouble === "")
-            searched = searched || !search.running;
+        searching = searching && search.trouble === "";
         if (!address.good)
             judgeReadings("");
         // One that is only switched off can be switched on.
@@ -49,6 +67,10 @@ TestPage {
         else if (unattended && searched)
             //% "The address is in order, and the radio searched."
             judgeReadings(qsTrId("kiv-bluetooth-searched"));
+        else if (searching && !search.running) {
+            searching = false;
+            Qt.callLater(confirm);
+        }
     }
 
     function add(device) {
@@ -111,7 +133,7 @@ TestPage {
     Notice {
         objectName: "nobody"
         width: parent.width
-        visible: page.searched && page.found.length === 0 && page.verdict === "" && !page.search.running
+        visible: page.searched && page.found.length === 0 && page.verdict === ""
         kind: "info"
         //% "The radio searched, but no device answered."
         text: qsTrId("kiv-bluetooth-nobody")
@@ -120,7 +142,7 @@ TestPage {
         objectName: "search"
         width: parent.width
         visible: page.search !== null && page.verdict === ""
-        enabled: page.isOpen && page.search !== null && !page.search.running
+        enabled: page.isOpen && !page.searching
         glyph: "retry"
         text: enabled
               //% "Search again"

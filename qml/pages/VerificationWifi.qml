@@ -50,9 +50,12 @@ TestPage {
         address.value = validator.getMac("wireless");
         address.meets = validator.isMacValid("wireless");
         address.criteria = qsTrId("kiv-mac-criteria").arg(validator.getMacCriteria("wireless"));
-        module.active = true;
-        if (blind && !address.good)
-            judgeReadings("");
+        //% "Asking for the Wi-Fi radio"
+        blocking(qsTrId("kiv-wifi-working"), function() {
+            module.active = true;
+            if (blind && !address.good)
+                judgeReadings("");
+        });
     }
     onClosing: module.active = false
 

@@ -349,7 +349,7 @@ Driver {
     function test_wifiWithoutAnOperator() {
         openTest("VerificationWifi");
         tryVerify(function() { return shown("unconnected"); });
-        page.frame = { unattended: true };
+        page.frame = { unattended: true, blocking: function(text, job) { job(); } };
         verdictIs(FactoryUtils.Pass, "radio was found");
     }
 
@@ -413,7 +413,7 @@ Driver {
     function test_bluetoothWithoutAnOperator() {
         openTest("VerificationBluetooth");
         tryVerify(function() { return page.search !== null && page.search.running; });
-        page.frame = { unattended: true };
+        page.frame = { unattended: true, blocking: function(text, job) { job(); } };
         verdictIs(FactoryUtils.Pass, "radio searched");
     }
 
