@@ -25,7 +25,7 @@ const QString UnwritableName = QStringLiteral("/dev/null/kiv-settings-%1");
 // QSettings keeps about ten of the files that it has parsed and takes them for unchanged while size and time stamp are,
 // which misses a file replaced within one tick of the file system's clock or installed with its old time stamp. It
 // knows files by name, so each is opened by a name that it has forgotten by the time the name comes round again.
-const QString FileName = QStringLiteral("/proc/self/fd/%1/%2");
+const QString DescriptorName = QStringLiteral("/proc/self/fd/%1");
 constexpr int FirstDescriptor = 100;
 constexpr int DescriptorCount = 100;
 
@@ -92,7 +92,9 @@ std::unique_ptr<QSettings> loadSettings(const QString &filter)
         if (names.isEmpty())
             continue;
         const UniqueFd uncommon = uncommonDescriptor(directory.get());
-        const QString descriptor = QString::number(uncommon.isOpen() ? uncommon.get() : ::dirfd(directory.get()));
+        const QString uncommonPath = DescriptorName.arg(uncommon.isOpen() ? uncommon.get() : ::dirfd(directory.get()));
+        // Without a proc file system the usual name has to do.
+        const QString folder = QFile::exists(uncommonPath) ? uncommonPath : QString::fromLatin1(path);
         for (const QString &name : names) {
             if (settings) {
                 qDebug() << "Append settings from" << name;
@@ -101,7 +103,7 @@ std::unique_ptr<QSettings> loadSettings(const QString &filter)
                 static quint64 counter = 0;
                 settings = std::make_unique<QSettings>(UnwritableName.arg(++counter), QSettings::IniFormat);
             }
-            copyValues(FileName.arg(descriptor, name), settings.get());
+            copyValues(folder + QLatin1Char('/') + name, settings.get());
         }
     }
     return settings;

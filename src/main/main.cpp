@@ -6,11 +6,13 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <link.h>
+#include <sys/auxv.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -67,13 +69,24 @@ bool dropPrivileges()
     return setuid(user) == 0 && setresuid(user, user, user) == 0;
 }
 
+// The file that the process was started from, without links. Where there is no proc file system, the kernel's word at
+// the start has to do.
+bool executablePath(char (&path)[PATH_MAX])
+{
+    const ssize_t length = readlink("/proc/self/exe", path, sizeof(path) - 1);
+    if (length >= 0) {
+        path[length] = '\0';
+        return true;
+    }
+    const auto *const name = reinterpret_cast<const char *>(getauxval(AT_EXECFN));
+    return name && realpath(name, path);
+}
+
 // Neither the environment nor the working directory may choose the library.
 bool applicationLibraryPath(char (&path)[PATH_MAX])
 {
-    const ssize_t length = readlink("/proc/self/exe", path, sizeof(path) - 1);
-    if (length < 0)
+    if (!executablePath(path))
         return false;
-    path[length] = '\0';
     char *const slash = strrchr(path, '/');
     const size_t directory = slash ? slash + 1 - path : 0;
     if (directory == 0 || directory + sizeof(KIV_APPLICATION_LIBRARY) > sizeof(path)) {
