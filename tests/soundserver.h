@@ -114,7 +114,7 @@ public:
     }
 
 private:
-    /*! Keeps the microphones' pipe full. */
+    /*! Twice as fast as real microphones: nobody has to wait, and no recording becomes much longer than is asked for. */
     void speak()
     {
         const int fd = ::open("/run/kiv-test/mics", O_WRONLY | O_NONBLOCK | O_CLOEXEC);
@@ -123,8 +123,8 @@ private:
             frames[i] = i % 2 == 0 ? Left : Right;
         while (fd >= 0 && m_speaking) {
             // Whole frames only: at most so many bytes are written in one piece or not at all.
-            if (::write(fd, frames, sizeof(frames)) < 0)
-                QThread::msleep(5);
+            Q_UNUSED(::write(fd, frames, sizeof(frames)))
+            QThread::msleep(10);
         }
         if (fd >= 0)
             ::close(fd);

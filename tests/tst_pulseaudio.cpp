@@ -76,7 +76,7 @@ class Destroyer : public QObject
     Q_OBJECT
 
 public:
-    explicit Destroyer(QObject *victim) : m_victim(victim) {}
+    explicit Destroyer(QObject *victim) : m_victim(victim) { }
 
 public Q_SLOTS:
     void destroy() { delete m_victim; }

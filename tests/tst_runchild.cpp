@@ -108,8 +108,7 @@ void tst_RunChild::speaksEnglish()
     const auto back = qScopeGuard([] { qunsetenv("LANGUAGE"); });
     // The rest of the environment is this program's own.
     qputenv("KIV_TEST_WORD", "a b");
-    QCOMPARE(shell("printf '%s %s %s' \"$LANGUAGE\" \"$KIV_TEST_WORD\" \"$HOME\"").output,
-             "C a b " + qgetenv("HOME"));
+    QCOMPARE(shell("printf '%s %s %s' \"$LANGUAGE\" \"$KIV_TEST_WORD\" \"$HOME\"").output, "C a b " + qgetenv("HOME"));
     QCOMPARE(qgetenv("LANGUAGE"), QByteArray("fi:de"));
 }
 
