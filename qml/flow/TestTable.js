@@ -102,7 +102,7 @@ var rows = [
       glyph: "light", kind: "guided", seconds: 15, timeout: 60 },
     //% "Vibrator"
     { name: "VerificationVibrator", title: QT_TRID_NOOP("kiv-test-vibrator"), needs: ["Vibrator"], page: "VerificationVibrator.qml",
-      glyph: "vibrator", kind: "guided", seconds: 15, timeout: 60, alone: true },
+      glyph: "vibrator", kind: "guided", seconds: 15, timeout: 60 },
     //% "SIM card"
     { name: "VerificationSim", title: QT_TRID_NOOP("kiv-test-sim"), needs: ["SIM"], page: "VerificationSim.qml",
       glyph: "sim", kind: "measured", seconds: 20, timeout: 80, alone: true },

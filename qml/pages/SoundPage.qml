@@ -48,6 +48,16 @@ TestPage {
             return;
         }
         prepared = true;
+        if (unattended)
+            playNext();
+    }
+
+    /*! One sound after the other, where nobody presses the buttons. */
+    function playNext() {
+        var place = sounds.map(function(entry) { return entry.name; }).indexOf(playing);
+        var entry = sounds[(place + 1) % sounds.length];
+        if (entry.name !== playing)
+            play(entry.name, entry.file, entry.ms);
     }
 
     function play(name, file, ms) {
@@ -63,6 +73,8 @@ TestPage {
 
     // The question takes its place.
     instructions: asking && ready ? "" : guidance
+    exercised: prepared && allPlayed
+    trouble: unattended && lost ? qsTrId("kiv-sound-lost") : ""
     evidence: missing === "" && !lost && !asksForSides && allPlayed
     evidenceHint: asking
                   //% "Answer from which side each tone comes: the answers are the verdict."
@@ -98,6 +110,8 @@ TestPage {
         onTaken: {
             if (page.playing !== "" && page.played.indexOf(page.playing) < 0)
                 page.played = page.played.concat([page.playing]);
+            if (page.unattended)
+                page.playNext();
         }
     }
 

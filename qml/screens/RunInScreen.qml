@@ -18,7 +18,8 @@ Item {
     readonly property var flow: shell ? shell.flow : null
     readonly property alias runIn: runIn
     readonly property var page: loader.item
-    readonly property bool fullScreen: page !== null && page.fullScreen
+    /*! A page that fills the screen gives way for a while to whoever taps it. */
+    readonly property bool fullScreen: page !== null && page.fullScreen && !peek.running
     /*! What a page looks for: nobody is there to judge it. */
     readonly property bool unattended: true
     readonly property bool over: runIn.end !== ""
@@ -391,5 +392,17 @@ Item {
     Loader {
         anchors.fill: parent
         sourceComponent: screen.fullScreen ? screen.page.cover : null
+    }
+    MouseArea {
+        objectName: "peek"
+        anchors.fill: parent
+        enabled: screen.fullScreen
+        Accessible.role: Accessible.Button
+        Accessible.name: qsTrId("kiv-mode-run-in")
+        onClicked: peek.start()
+    }
+    Timer {
+        id: peek
+        interval: 8000
     }
 }

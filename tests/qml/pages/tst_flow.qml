@@ -354,12 +354,35 @@ Driver {
     }
 
     function test_aPageThatDoesNothingFailsTheRunIn() {
-        var runIn = openRunIn(["VerificationVibrator", "Calibration"]);
+        var runIn = openRunIn(["AudioPlayMusicReceiver", "Calibration"]);
+        Phone.soundServer = false;
         mouseClick(find("runInStart"));
         tryVerify(function() { return page && page.isOpen; });
-        page.exercised = false;
         frame.testSeconds = runIn.row.timeout - 1;
         tryVerify(function() { return runIn.end === "failure"; }, 5000);
+    }
+
+    function test_runInPlaysSounds() {
+        var runIn = openRunIn(["AudioPlayStereoLoudspeaker"]);
+        mouseClick(find("runInStart"));
+        tryVerify(function() { return page && page.exercised; }, 10000);
+        compare(page.played.length, page.sounds.length);
+        frame.testSeconds = runIn.row.seconds;
+        runIn.elapsed = runIn.lengthSeconds;
+        tryVerify(function() { return runIn.end === "time"; }, 5000);
+        compare(runIn.code, FactoryUtils.Pass);
+        compare(Phone.sinkPort, "output-before");
+        compare(Phone.sounding, "");
+    }
+
+    function test_theRunInShowsItselfToWhoeverTaps() {
+        openRunIn(["VerificationLcd"]);
+        mouseClick(find("runInStart"));
+        tryVerify(function() { return frame.fullScreen; });
+        mouseClick(shell, 100, 100);
+        verify(!frame.fullScreen);
+        verify(find("runInClock").visible);
+        verify(page.fullScreen);
     }
 
     function test_traceKeepsABoundedNumberOfPoints() {
