@@ -283,6 +283,7 @@ Item {
 
     // A receiver takes minutes to find satellites: it starts with the sequence.
     Loader {
+        objectName: "satellites"
         active: !shell.single && flow.isAhead("VerificationGpsRadio")
         source: "flow/Satellites.qml"
     }

@@ -189,6 +189,23 @@ Driver {
         tryVerify(function() { return screenName() === "EngineerScreen"; });
     }
 
+    function test_theSatelliteReceiverStartsWithTheSequence() {
+        startSequence(["VerificationHallDetect", "VerificationGpsRadio", "VerificationBattery"]);
+        verify(find("satellites").item, "long before its page");
+        tap("fail");
+        compare(frame.row.name, "VerificationGpsRadio");
+        verify(find("satellites").item);
+        afterFlash();
+        tap("fail");
+        compare(frame.row.name, "VerificationBattery");
+        verify(!find("satellites").item);
+    }
+
+    function test_noReceiverWhereNothingAsksForIt() {
+        startSequence(["VerificationHallDetect", "VerificationBattery"]);
+        verify(!find("satellites").item);
+    }
+
     function test_linesForTheStation() {
         Phone.unsupported = ["Key"];
         Phone.addresses = { bluetooth: "00:11:22:aa:bb:cc", wireless: "" };
