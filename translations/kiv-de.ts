@@ -1814,7 +1814,7 @@
     </message>
     <message id="kiv-wifi-instructions">
         <source>Switch Wi-Fi on and connect the phone to a network: the test passes by itself.</source>
-        <translation>WLAN einschalten und das Telefon mit einem Netz verbinden: Der Test besteht von selbst.</translation>
+        <translation>WLAN einschalten und das Telefon mit einem Netz verbinden. Der Test ist dann von selbst bestanden.</translation>
     </message>
     <message id="kiv-wifi-hint">
         <source>Pass unlocks when the address is in order and the radio was found.</source>

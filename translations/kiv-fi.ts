@@ -1799,7 +1799,7 @@
     </message>
     <message id="kiv-wifi-instructions">
         <source>Switch Wi-Fi on and connect the phone to a network: the test passes by itself.</source>
-        <translation>Kytke Wi-Fi päälle ja yhdistä puhelin verkkoon: testi hyväksytään itsestään.</translation>
+        <translation>Kytke WLAN päälle ja yhdistä puhelin verkkoon: testi hyväksytään itsestään.</translation>
     </message>
     <message id="kiv-wifi-hint">
         <source>Pass unlocks when the address is in order and the radio was found.</source>
@@ -1807,7 +1807,7 @@
     </message>
     <message id="kiv-wifi-missing">
         <source>This phone has no Wi-Fi.</source>
-        <translation>Tässä puhelimessa ei ole Wi-Fiä.</translation>
+        <translation>Tässä puhelimessa ei ole WLANia.</translation>
     </message>
     <message id="kiv-wifi-unconnected">
         <source>The radio is there, but not connected. Without a network in reach, judge by the networks that the settings list.</source>
@@ -2706,7 +2706,7 @@
     </message>
     <message id="kiv-wifi-working">
         <source>Asking for the Wi-Fi radio</source>
-        <translation>Kysytään Wi-Fi-radiolta</translation>
+        <translation>Kysytään WLAN-radiolta</translation>
     </message>
 </context>
 </TS>

@@ -35,7 +35,7 @@ Item {
                 readonly property bool used: satellite !== undefined && satellite.inUse
                 readonly property string strengthText: known ? Math.round(satellite.strength) : "–"
                 width: bars.width / bars.limit
-                height: 16 * Theme.unit
+                height: 14.75 * Theme.unit
                 Accessible.role: Accessible.StaticText
                 Accessible.name: satellite === undefined ? "" :
                     //: A satellite: its number, its strength in decibels

@@ -10,8 +10,8 @@ Item {
     id: sky
 
     property var satellites: []
-    readonly property real radius: Math.min(width / 2, 14 * Theme.unit) - 3 * Theme.unit
-    readonly property real middle: radius + 3 * Theme.unit
+    readonly property real radius: Math.min(width / 2, 14 * Theme.unit) - 2.5 * Theme.unit
+    readonly property real middle: radius + 2.5 * Theme.unit
 
     implicitHeight: 2 * middle
     height: implicitHeight
@@ -72,8 +72,8 @@ Item {
             ]
 
             Words {
-                x: sky.middle + Math.sin(index * Math.PI / 2) * (sky.radius + 1.6 * Theme.unit) - width / 2
-                y: sky.middle - Math.cos(index * Math.PI / 2) * (sky.radius + 1.6 * Theme.unit) - height / 2
+                x: sky.middle + Math.sin(index * Math.PI / 2) * (sky.radius + 1.4 * Theme.unit) - width / 2
+                y: sky.middle - Math.cos(index * Math.PI / 2) * (sky.radius + 1.4 * Theme.unit) - height / 2
                 text: modelData
                 color: Theme.muted
                 font.pixelSize: Theme.small
@@ -95,15 +95,16 @@ Item {
                 x: sky.middle + distance * Math.sin(angle) - width / 2
                 y: sky.middle - distance * Math.cos(angle) - height / 2
                 z: used ? 1 : 0
-                width: 3.5 * Theme.unit
-                height: width
-                radius: width / 2
+                width: Math.max(height, number.width + Theme.unit)
+                height: 3.5 * Theme.unit
+                radius: height / 2
                 antialiasing: true
                 color: used ? Theme.pass : Theme.surface
                 border.width: used ? 0 : 2 * Theme.hairline
                 border.color: Theme.muted
 
                 Words {
+                    id: number
                     anchors.centerIn: parent
                     text: mark.satellite === undefined ? "" : mark.satellite.identifier
                     color: mark.used ? Theme.passInk : Theme.text

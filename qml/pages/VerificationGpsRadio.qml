@@ -125,10 +125,6 @@ TestPage {
         visible: page.satellites.length > 0
         padding: Theme.gap
 
-        SkyView {
-            width: parent.width
-            satellites: page.satellites
-        }
         SignalBars {
             width: parent.width
             satellites: page.satellites
@@ -149,6 +145,10 @@ TestPage {
                 color: Theme.muted
                 font.pixelSize: Theme.small
             }
+        }
+        SkyView {
+            width: parent.width
+            satellites: page.satellites
         }
     }
     Measurement {
