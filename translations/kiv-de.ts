@@ -2108,8 +2108,9 @@
         <translation>Innenwiderstand</translation>
     </message>
     <message id="kiv-keylight-instructions">
-        <source>Look at the keys beside the panel. If they have no light, choose Not applicable.</source>
-        <translation>Sehen Sie auf die Tasten neben dem Bildschirm. Haben sie kein Licht, wählen Sie „Entfällt“.</translation>
+        <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
+        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
+        <translation>Sehen Sie auf die Tasten neben dem Bildschirm. Haben sie kein Licht, wählen Sie „Auslassen“.</translation>
     </message>
     <message id="kiv-keylight-note">
         <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>

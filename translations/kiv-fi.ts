@@ -2093,8 +2093,9 @@
         <translation>Sisäinen vastus</translation>
     </message>
     <message id="kiv-keylight-instructions">
-        <source>Look at the keys beside the panel. If they have no light, choose Not applicable.</source>
-        <translation>Katso näytön viereisiä näppäimiä. Jos niissä ei ole valoa, valitse ”Ei koske”.</translation>
+        <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
+        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
+        <translation>Katso näytön viereisiä näppäimiä. Jos niissä ei ole valoa, valitse ”Ohita”.</translation>
     </message>
     <message id="kiv-keylight-note">
         <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>

@@ -2108,7 +2108,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-keylight-instructions">
-        <source>Look at the keys beside the panel. If they have no light, choose Not applicable.</source>
+        <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
+        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-keylight-note">

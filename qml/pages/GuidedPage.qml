@@ -22,16 +22,16 @@ TestPage {
 
     onOpened: missing = feature === "" || Features.supported(feature, row.name) ? "" : featureMissing
 
-    Notice {
-        width: parent.width
-        visible: page.missing === "" && text !== ""
-        text: page.note
-    }
     Checks {
         id: checks
         width: parent.width
         asking: page.isOpen && page.missing === "" && page.verdict === ""
         onPassed: page.judge(FactoryUtils.Pass, page.goodReason)
         onFailed: page.judge(FactoryUtils.Fail, reason)
+    }
+    Notice {
+        width: parent.width
+        visible: page.missing === "" && text !== ""
+        text: page.note
     }
 }

@@ -16,7 +16,7 @@ TestPage {
     property bool touched: false
     readonly property bool hasRested: rested >= restSeconds
 
-    //% "Look at the keys beside the panel. If they have no light, choose Not applicable."
+    //% "Look at the keys beside the panel. If they have no light, choose Skip."
     instructions: qsTrId("kiv-keylight-instructions")
     evidence: false
     //% "Pass unlocks when you have answered the questions."
@@ -34,12 +34,6 @@ TestPage {
         }
     }
 
-    Notice {
-        width: parent.width
-        visible: page.verdict === ""
-        //% "Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again."
-        text: qsTrId("kiv-keylight-note")
-    }
     StepList {
         width: parent.width
         steps: [
@@ -90,5 +84,11 @@ TestPage {
         //% "The operator saw the keys light up and go out."
         onPassed: page.judge(FactoryUtils.Pass, qsTrId("kiv-keylight-good"))
         onFailed: page.judge(FactoryUtils.Fail, reason)
+    }
+    Notice {
+        width: parent.width
+        visible: page.verdict === ""
+        //% "Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again."
+        text: qsTrId("kiv-keylight-note")
     }
 }

@@ -77,12 +77,6 @@ TestPage {
         settled: page.seen !== ""
     }
 
-    Notice {
-        width: parent.width
-        visible: page.verdict === ""
-        //% "Kiv cannot switch this light: it shows what the phone wants to tell, such as that it charges."
-        text: qsTrId("kiv-led-note")
-    }
     StepList {
         width: parent.width
         steps: [
@@ -173,5 +167,11 @@ TestPage {
         //% "The operator saw the light while the phone charged (%1), and saw it go out."
         onPassed: page.judge(FactoryUtils.Pass, qsTrId("kiv-led-good").arg(page.seen))
         onFailed: page.judge(FactoryUtils.Fail, reason)
+    }
+    Notice {
+        width: parent.width
+        visible: page.verdict === ""
+        //% "Kiv cannot switch this light: it shows what the phone wants to tell, such as that it charges."
+        text: qsTrId("kiv-led-note")
     }
 }

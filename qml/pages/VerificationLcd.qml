@@ -105,6 +105,7 @@ TestPage {
         LayoutMirroring.childrenInherit: true
 
         Rectangle {
+            objectName: "paper"
             anchors.fill: parent
             color: page.dotsShown ? page.ink[1]
                    : ({ "white": "#ffffff", "red": "#ff0000", "green": "#00ff00", "blue": "#0000ff" })[panel.shown]
@@ -132,6 +133,7 @@ TestPage {
         }
         // Neighbours that differ: a short between two lines shows as a line.
         Image {
+            objectName: "checkers"
             anchors.fill: parent
             visible: panel.shown === "fine"
             fillMode: Image.Tile

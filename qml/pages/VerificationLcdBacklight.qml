@@ -107,12 +107,6 @@ TestPage {
         onTriggered: page.advance()
     }
 
-    Notice {
-        width: parent.width
-        visible: page.isOpen && page.verdict === ""
-        //% "Kiv cannot change the backlight. It is the picture that becomes brighter or darker: what it shows is that the panel is lit and that you looked."
-        text: qsTrId("kiv-backlight-note")
-    }
     Challenge {
         id: challenge
         width: parent.width
@@ -158,5 +152,11 @@ TestPage {
         //% "Show the white panel again"
         text: qsTrId("kiv-backlight-white-again")
         onClicked: page.enter("white", 1, page.whiteMs)
+    }
+    Notice {
+        width: parent.width
+        visible: page.isOpen && page.verdict === ""
+        //% "Kiv cannot change the backlight. It is the picture that becomes brighter or darker: what it shows is that the panel is lit and that you looked."
+        text: qsTrId("kiv-backlight-note")
     }
 }

@@ -4,11 +4,14 @@
 CHARGING_MICROAMPERES = 1100000
 DRAIN_MICROAMPERES = 240000
 LOOK_EVERY_MS = 50
+# What a battery of middle age has, with its contacts.
+MILLIOHMS = 140
 
 
 class Charger:
     def __init__(self, phone):
         self.phone = phone
+        self.milliohms = MILLIOHMS
         self.seen = self.inputs()
         phone.every(LOOK_EVERY_MS, self.look)
 
@@ -18,6 +21,15 @@ class Charger:
         capacity = battery and self.phone.read(battery + '/capacity')
         return (battery, battery and self.phone.read(battery + '/present'), capacity == '100',
                 usb and self.phone.read(usb + '/online'), usb and self.phone.read(usb + '/charger_disable'))
+
+    def follow(self, battery, current):
+        try:
+            before = int(self.phone.read(battery + '/current_now'))
+            voltage = int(self.phone.read(battery + '/voltage_now'))
+        except (TypeError, ValueError):
+            return
+        if voltage > 0:
+            self.phone.write(battery + '/voltage_now', str(voltage + (current - before) * self.milliohms // 1000))
 
     def look(self):
         now = self.inputs()
@@ -33,10 +45,12 @@ class Charger:
             status, current = 'Full', 0
         else:
             status, current = 'Charging', CHARGING_MICROAMPERES
-        # Whoever waits for the status finds the current that goes with it.
+        # Whoever waits for the status finds the current that goes with it, and the voltage that goes with that.
+        self.follow(battery, current)
         self.phone.write_if_there(battery + '/current_now', str(current))
         self.phone.write_if_there(battery + '/status', status)
 
 
 def start(phone):
-    return Charger(phone)
+    phone.charger = Charger(phone)
+    return phone.charger

@@ -114,6 +114,17 @@ def insert(phone):
     del phone.removed_battery
 
 
+def resistance(phone, milliohms=None):
+    battery(phone)
+    if milliohms is None:
+        return '%d mΩ' % phone.charger.milliohms
+    try:
+        phone.charger.milliohms = int(milliohms)
+    except ValueError:
+        raise Failure('%s is no number of milliohms' % milliohms)
+    return None
+
+
 COMMANDS = [
     Command('battery', '', 'show what the battery reports', show),
     Command('battery level', 'PERCENT', 'charge level, with the energy, charge and voltage that go with it', level),
@@ -127,6 +138,8 @@ COMMANDS = [
             lambda phone, text: set_attribute(phone, 'current_now', micro(text, 'A'))),
     Command('battery voltage', 'VALUE', 'such as 3.7V or 3700000 (microvolts)',
             lambda phone, text: set_attribute(phone, 'voltage_now', micro(text, 'V'))),
+    Command('battery resistance', '[MILLIOHMS]', 'by which the voltage follows the current when that changes',
+            resistance),
     Command('battery set', 'ATTRIBUTE TEXT', "any attribute of the battery's directory, as the kernel writes it",
             set_attribute),
     Command('battery remove', '', 'take the battery out', remove),
