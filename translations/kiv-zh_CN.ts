@@ -2618,5 +2618,10 @@
         <source>The address is in order, and the radio was found.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-layout-direction">
+        <source>LTR</source>
+        <extracomment>&quot;LTR&quot;, or &quot;RTL&quot; for a language that is written from right to left</extracomment>
+        <translation>LTR</translation>
+    </message>
 </context>
 </TS>
