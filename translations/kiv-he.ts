@@ -1265,7 +1265,7 @@
     <message id="kiv-microphone-missing">
         <source>The sound server has no built-in microphone, or its tool does not answer.</source>
         <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
-        <translation type="unfinished">שרת הקול אינו עונה, או שאינו מכיר מיקרופון מובנה.</translation>
+        <translation>לשרת הקול אין מיקרופון מובנה, או שהכלי שלו אינו עונה.</translation>
     </message>
     <message id="kiv-microphone-hint">
         <source>Pass unlocks when a recording has been played back.</source>
@@ -1294,7 +1294,7 @@
     <message id="kiv-sound-missing">
         <source>The sound server has no main output, or its tool does not answer.</source>
         <oldsource>The sound server does not answer, or it has no main output.</oldsource>
-        <translation type="unfinished">שרת הקול אינו עונה, או שאין לו יציאה ראשית.</translation>
+        <translation>לשרת הקול אין יציאה ראשית, או שהכלי שלו אינו עונה.</translation>
     </message>
     <message id="kiv-sound-hint">
         <source>Pass unlocks when every sound has been played.</source>
@@ -1355,6 +1355,77 @@
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>לא היה אפשר להדליק את הרדיו: שירות ניתוב הקול אינו עונה או אינו מציע אותו.</translation>
+    </message>
+    <message id="kiv-microphone-unplayed">
+        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <translation>שרת הקול לא השמיע את ההקלטה: הוא הופעל מחדש מאז ש־Kiv רץ. הפעילו מחדש את Kiv.</translation>
+    </message>
+    <message id="kiv-sound-unreached">
+        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
+        <translation>שרת הקול אינו עונה. נסו שוב כשיפעל. אם זה לא עוזר, הפעילו מחדש את Kiv.</translation>
+    </message>
+    <message id="kiv-microphone-putting-back">
+        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
+        <translation>מחזיר את המיקרופון למצבו. זה נמשך עד שתי דקות כששרת הקול אינו עונה.</translation>
+    </message>
+    <message id="kiv-microphone-no-level">
+        <source>The phone shows no level. Listen to the recording afterwards.</source>
+        <translation>הטלפון אינו מראה עוצמה. האזינו אחר כך להקלטה.</translation>
+    </message>
+    <message id="kiv-microphone-silent">
+        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
+        <translation>לא שמעתם דבר? אז המיקרופון חירש, או שהתיקייה ⁦/tmp⁩ מלאה: הקלטה תופסת בה בערך ⁦800 kB⁩.</translation>
+    </message>
+    <message id="kiv-side-left">
+        <source>Left</source>
+        <translation>שמאל</translation>
+    </message>
+    <message id="kiv-side-right">
+        <source>Right</source>
+        <translation>ימין</translation>
+    </message>
+    <message id="kiv-side-none">
+        <source>Neither, or I cannot tell</source>
+        <translation>אף צד, או שאי אפשר לדעת</translation>
+    </message>
+    <message id="kiv-sides-wrong">
+        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
+        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
+        <translation>צליל שנוגן בצד &quot;%1&quot; נשמע כ&quot;%2&quot;</translation>
+    </message>
+    <message id="kiv-sides-good">
+        <source>The operator heard every tone from its side: %1 of %1</source>
+        <translation>המפעיל שמע כל צליל מהצד שלו: %1 מתוך %1</translation>
+    </message>
+    <message id="kiv-sides-question">
+        <source>From which side does the tone come? Question %1 of %2</source>
+        <extracomment>Number of this question and of all of them</extracomment>
+        <translation>מאיזה צד בא הצליל? שאלה %1 מתוך %2</translation>
+    </message>
+    <message id="kiv-sides-again">
+        <source>Play the tone again</source>
+        <translation>השמעה חוזרת של הצליל</translation>
+    </message>
+    <message id="kiv-sides-play">
+        <source>Play the tone</source>
+        <translation>השמעת הצליל</translation>
+    </message>
+    <message id="kiv-sound-unswitched">
+        <source>The sound server does not switch to the output %1.</source>
+        <extracomment>The name of the output in the sound server</extracomment>
+        <translation>שרת הקול אינו עובר ליציאה ⁨%1⁩.</translation>
+    </message>
+    <message id="kiv-sides-hint">
+        <source>Answer from which side each tone comes: the answers are the verdict.</source>
+        <translation>ענו מאיזה צד בא כל צליל: התשובות הן ההכרעה.</translation>
+    </message>
+    <message id="kiv-sound-lost">
+        <source>The sound server takes no more sound.</source>
+        <translation>שרת הקול אינו מקבל עוד קול.</translation>
+    </message>
+    <message id="kiv-fm-radio-working">
+        <source>Waiting for the audio policy</source>
+        <translation>ממתין לשירות ניתוב הקול</translation>
     </message>
     <message id="kiv-gps-satellite">
         <source>Satellite %1, %2 dB</source>
@@ -2539,84 +2610,13 @@
         <source>Skip</source>
         <translation>דילוג</translation>
     </message>
-    <message id="kiv-microphone-unplayed">
-        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-unreached">
-        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-putting-back">
-        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-no-level">
-        <source>The phone shows no level. Listen to the recording afterwards.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-silent">
-        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-left">
-        <source>Left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-right">
-        <source>Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-none">
-        <source>Neither, or I cannot tell</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-wrong">
-        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
-        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-good">
-        <source>The operator heard every tone from its side: %1 of %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-question">
-        <source>From which side does the tone come? Question %1 of %2</source>
-        <extracomment>Number of this question and of all of them</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-again">
-        <source>Play the tone again</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-play">
-        <source>Play the tone</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-unswitched">
-        <source>The sound server does not switch to the output %1.</source>
-        <extracomment>The name of the output in the sound server</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-hint">
-        <source>Answer from which side each tone comes: the answers are the verdict.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-lost">
-        <source>The sound server takes no more sound.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-fm-radio-working">
-        <source>Waiting for the audio policy</source>
-        <translation type="unfinished"></translation>
+        <translation>הכתובת תקינה, והרדיו סיים לחפש.</translation>
     </message>
     <message id="kiv-wifi-found">
         <source>The address is in order, and the radio was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכתובת תקינה, והרדיו נמצא.</translation>
     </message>
     <message id="kiv-layout-direction">
         <source>LTR</source>
