@@ -253,7 +253,7 @@ Item {
 
     Component.onCompleted: begin()
 
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Theme.mirrored
     LayoutMirroring.childrenInherit: true
 
     Binding {

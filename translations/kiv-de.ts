@@ -2720,6 +2720,11 @@
         <source>The address is in order, and the radio was found.</source>
         <translation>Die Adresse ist in Ordnung, und das Funkteil wurde gefunden.</translation>
     </message>
+    <message id="kiv-layout-direction">
+        <source>LTR</source>
+        <extracomment>&quot;LTR&quot;, or &quot;RTL&quot; for a language that is written from right to left</extracomment>
+        <translation>LTR</translation>
+    </message>
     <message id="kiv-wifi-working">
         <source>Asking for the Wi-Fi radio</source>
         <translation>Das WLAN-Funkteil wird abgefragt</translation>

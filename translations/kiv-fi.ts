@@ -2705,6 +2705,11 @@
         <source>The address is in order, and the radio was found.</source>
         <translation>Osoite on kunnossa, ja radio löytyi.</translation>
     </message>
+    <message id="kiv-layout-direction">
+        <source>LTR</source>
+        <extracomment>&quot;LTR&quot;, or &quot;RTL&quot; for a language that is written from right to left</extracomment>
+        <translation>LTR</translation>
+    </message>
     <message id="kiv-wifi-working">
         <source>Asking for the Wi-Fi radio</source>
         <translation>Kysytään WLAN-radiolta</translation>

@@ -14,15 +14,15 @@
     <message id="kiv-limits-range">
         <source>%1 to %2 %3</source>
         <extracomment>Limits of a reading: the lowest, the highest, the unit</extracomment>
-        <translation>%1 עד %2 %3</translation>
+        <translation>%1 עד ⁦%2 %3⁩</translation>
     </message>
     <message id="kiv-limits-minimum">
         <source>at least %1 %2</source>
-        <translation>לפחות %1 %2</translation>
+        <translation>לפחות ⁦%1 %2⁩</translation>
     </message>
     <message id="kiv-limits-maximum">
         <source>at most %1 %2</source>
-        <translation>לכל היותר %1 %2</translation>
+        <translation>לכל היותר ⁦%1 %2⁩</translation>
     </message>
     <message id="kiv-reading-pass">
         <source>in order</source>
@@ -243,7 +243,7 @@
     <message id="kiv-reason-reading">
         <source>%1: %2 (%3)</source>
         <extracomment>A reading that is not as it should be: its name, its value, what it should be</extracomment>
-        <translation>%1: %2 (%3)</translation>
+        <translation>⁨%1⁩: ⁨%2⁩ (⁨%3⁩)</translation>
     </message>
     <message id="kiv-battery-instructions">
         <source>Nothing to do: the phone reads its battery.</source>
@@ -394,7 +394,7 @@
         <source>Overruled by the operator: %2. Measured: %1</source>
         <oldsource>Overruled by the operator; measured: %1</oldsource>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
-        <translation>המפעיל הכריע אחרת: %2. נמדד: %1</translation>
+        <translation>המפעיל הכריע אחרת: ⁨%2⁩. נמדד: ⁨%1⁩</translation>
     </message>
     <message id="kiv-summary-attempts">
         <source>Attempts: %1</source>
@@ -480,7 +480,7 @@
     <message id="kiv-mac-criteria">
         <source>must match %1</source>
         <extracomment>A pattern that an address has to match</extracomment>
-        <translation>חייב להתאים ל־%1</translation>
+        <translation>חייב להתאים ל־⁨%1⁩</translation>
     </message>
     <message id="kiv-calibration-good">
         <source>The record is as it must be.</source>
@@ -645,7 +645,7 @@
     <message id="kiv-system-process">
         <source>%1 (%2)</source>
         <extracomment>A process: its name and its number</extracomment>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
     <message id="kiv-touch-self-instructions">
         <source>The touch controller tests itself. Keep fingers off the panel.</source>
@@ -1135,7 +1135,7 @@
     <message id="kiv-limits-accepted">
         <source>must be %1</source>
         <extracomment>The value that a reading must have</extracomment>
-        <translation>חייב להיות %1</translation>
+        <translation>חייב להיות ⁨%1⁩</translation>
     </message>
     <message id="kiv-sd-card-failed">
         <source>failed</source>
@@ -1212,7 +1212,7 @@
     <message id="kiv-settings-microphone">
         <source>%1, channel %2</source>
         <extracomment>A microphone of the sound server and its channel</extracomment>
-        <translation>%1, ערוץ %2</translation>
+        <translation>‏⁨%1⁩, ערוץ ⁨%2⁩</translation>
     </message>
     <message id="kiv-settings-microphone-bottom">
         <source>Lower microphone</source>
@@ -1265,7 +1265,7 @@
     <message id="kiv-microphone-missing">
         <source>The sound server has no built-in microphone, or its tool does not answer.</source>
         <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
-        <translation type="unfinished">שרת הקול אינו עונה, או שאינו מכיר מיקרופון מובנה.</translation>
+        <translation>לשרת הקול אין מיקרופון מובנה, או שהכלי שלו אינו עונה.</translation>
     </message>
     <message id="kiv-microphone-hint">
         <source>Pass unlocks when a recording has been played back.</source>
@@ -1294,7 +1294,7 @@
     <message id="kiv-sound-missing">
         <source>The sound server has no main output, or its tool does not answer.</source>
         <oldsource>The sound server does not answer, or it has no main output.</oldsource>
-        <translation type="unfinished">שרת הקול אינו עונה, או שאין לו יציאה ראשית.</translation>
+        <translation>לשרת הקול אין יציאה ראשית, או שהכלי שלו אינו עונה.</translation>
     </message>
     <message id="kiv-sound-hint">
         <source>Pass unlocks when every sound has been played.</source>
@@ -1355,6 +1355,77 @@
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>לא היה אפשר להדליק את הרדיו: שירות ניתוב הקול אינו עונה או אינו מציע אותו.</translation>
+    </message>
+    <message id="kiv-microphone-unplayed">
+        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <translation>שרת הקול לא השמיע את ההקלטה: הוא הופעל מחדש מאז ש־Kiv רץ. הפעילו מחדש את Kiv.</translation>
+    </message>
+    <message id="kiv-sound-unreached">
+        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
+        <translation>שרת הקול אינו עונה. נסו שוב כשיפעל. אם זה לא עוזר, הפעילו מחדש את Kiv.</translation>
+    </message>
+    <message id="kiv-microphone-putting-back">
+        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
+        <translation>מחזיר את המיקרופון למצבו. זה נמשך עד שתי דקות כששרת הקול אינו עונה.</translation>
+    </message>
+    <message id="kiv-microphone-no-level">
+        <source>The phone shows no level. Listen to the recording afterwards.</source>
+        <translation>הטלפון אינו מראה עוצמה. האזינו אחר כך להקלטה.</translation>
+    </message>
+    <message id="kiv-microphone-silent">
+        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
+        <translation>לא שמעתם דבר? אז המיקרופון חירש, או שהתיקייה ⁦/tmp⁩ מלאה: הקלטה תופסת בה בערך ⁦800 kB⁩.</translation>
+    </message>
+    <message id="kiv-side-left">
+        <source>Left</source>
+        <translation>שמאל</translation>
+    </message>
+    <message id="kiv-side-right">
+        <source>Right</source>
+        <translation>ימין</translation>
+    </message>
+    <message id="kiv-side-none">
+        <source>Neither, or I cannot tell</source>
+        <translation>אף צד, או שאי אפשר לדעת</translation>
+    </message>
+    <message id="kiv-sides-wrong">
+        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
+        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
+        <translation>צליל שנוגן בצד &quot;%1&quot; נשמע כ&quot;%2&quot;</translation>
+    </message>
+    <message id="kiv-sides-good">
+        <source>The operator heard every tone from its side: %1 of %1</source>
+        <translation>המפעיל שמע כל צליל מהצד שלו: %1 מתוך %1</translation>
+    </message>
+    <message id="kiv-sides-question">
+        <source>From which side does the tone come? Question %1 of %2</source>
+        <extracomment>Number of this question and of all of them</extracomment>
+        <translation>מאיזה צד בא הצליל? שאלה %1 מתוך %2</translation>
+    </message>
+    <message id="kiv-sides-again">
+        <source>Play the tone again</source>
+        <translation>השמעה חוזרת של הצליל</translation>
+    </message>
+    <message id="kiv-sides-play">
+        <source>Play the tone</source>
+        <translation>השמעת הצליל</translation>
+    </message>
+    <message id="kiv-sound-unswitched">
+        <source>The sound server does not switch to the output %1.</source>
+        <extracomment>The name of the output in the sound server</extracomment>
+        <translation>שרת הקול אינו עובר ליציאה ⁨%1⁩.</translation>
+    </message>
+    <message id="kiv-sides-hint">
+        <source>Answer from which side each tone comes: the answers are the verdict.</source>
+        <translation>ענו מאיזה צד בא כל צליל: התשובות הן ההכרעה.</translation>
+    </message>
+    <message id="kiv-sound-lost">
+        <source>The sound server takes no more sound.</source>
+        <translation>שרת הקול אינו מקבל עוד קול.</translation>
+    </message>
+    <message id="kiv-fm-radio-working">
+        <source>Waiting for the audio policy</source>
+        <translation>ממתין לשירות ניתוב הקול</translation>
     </message>
     <message id="kiv-gps-satellite">
         <source>Satellite %1, %2 dB</source>
@@ -1501,7 +1572,7 @@
     </message>
     <message id="kiv-bluetooth-good">
         <source>The address is in order, and the radio found a device: %1</source>
-        <translation>הכתובת תקינה, והרדיו מצא התקן: %1</translation>
+        <translation>הכתובת תקינה, והרדיו מצא התקן: ⁨%1⁩</translation>
     </message>
     <message id="kiv-bluetooth-instructions-blind">
         <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds devices.</source>
@@ -1562,7 +1633,7 @@
     <message id="kiv-gps-status-unknown">
         <source>unknown (%1)</source>
         <extracomment>The service reports a state that has no name</extracomment>
-        <translation>לא ידוע (%1)</translation>
+        <translation>לא ידוע (⁨%1⁩)</translation>
     </message>
     <message id="kiv-gps-good">
         <source>A satellite was in use after %1 s.</source>
@@ -1763,7 +1834,7 @@
     </message>
     <message id="kiv-zel-good">
         <source>The cover was seen to come and go. Its identifier: %1</source>
-        <translation>הכיסוי זוהה מתחבר ומוסר. המזהה שלו: %1</translation>
+        <translation>הכיסוי זוהה מתחבר ומוסר. המזהה שלו: ⁨%1⁩</translation>
     </message>
     <message id="kiv-zel-nameless">
         <source>The cover was seen to come and go, but it did not tell its identifier.</source>
@@ -1816,7 +1887,7 @@
     <message id="kiv-challenge-mistake">
         <source>Shown: %1, answered: %2</source>
         <extracomment>A wrong answer: what was shown and what the operator said</extracomment>
-        <translation>הוצג: %1, נענה: %2</translation>
+        <translation>הוצג: ⁨%1⁩, נענה: ⁨%2⁩</translation>
     </message>
     <message id="kiv-challenge-second">
         <source>That was not right. You have one more try, with something new.</source>
@@ -1850,7 +1921,7 @@
     </message>
     <message id="kiv-data-note">
         <source>Kiv cannot tell over which radio a page comes. Where the phone has two SIM cards, try each.</source>
-        <translation>Kiv אינו יכול לדעת דרך איזה רדיו מגיע דף. בטלפון עם שני כרטיסי SIM נסו את שניהם.</translation>
+        <translation>‏Kiv אינו יכול לדעת דרך איזה רדיו מגיע דף. בטלפון עם שני כרטיסי SIM נסו את שניהם.</translation>
     </message>
     <message id="kiv-data-good">
         <source>The operator loaded a web page over mobile data.</source>
@@ -1906,7 +1977,7 @@
     </message>
     <message id="kiv-voice-note">
         <source>Kiv makes no calls by itself. Where the phone has two SIM cards, call with each.</source>
-        <translation>Kiv אינו מתקשר בעצמו. בטלפון עם שני כרטיסי SIM התקשרו מכל אחד מהם.</translation>
+        <translation>‏Kiv אינו מתקשר בעצמו. בטלפון עם שני כרטיסי SIM התקשרו מכל אחד מהם.</translation>
     </message>
     <message id="kiv-voice-good">
         <source>The operator made a call and both ends heard each other.</source>
@@ -2042,7 +2113,7 @@
     </message>
     <message id="kiv-keylight-note">
         <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>
-        <translation>Kiv אינו יכול להדליק את התאורה: הטלפון מאיר את המקשים אחרי נגיעה ומכבה אותם שוב.</translation>
+        <translation>‏Kiv אינו יכול להדליק את התאורה: הטלפון מאיר את המקשים אחרי נגיעה ומכבה אותם שוב.</translation>
     </message>
     <message id="kiv-keylight-step-touch">
         <source>Touch the field below</source>
@@ -2094,7 +2165,7 @@
     </message>
     <message id="kiv-fingerprint-note">
         <source>Kiv cannot reach the reader: the phone keeps fingerprints to itself. Remove the finger from the settings afterwards.</source>
-        <translation>Kiv אינו מגיע אל הקורא: הטלפון שומר את טביעות האצבע לעצמו. בסיום הסירו את האצבע מההגדרות.</translation>
+        <translation>‏Kiv אינו מגיע אל הקורא: הטלפון שומר את טביעות האצבע לעצמו. בסיום הסירו את האצבע מההגדרות.</translation>
     </message>
     <message id="kiv-fingerprint-good">
         <source>The operator saw the reader know one finger and refuse another.</source>
@@ -2174,7 +2245,7 @@
     </message>
     <message id="kiv-backlight-note">
         <source>Kiv cannot change the backlight. It is the picture that becomes brighter or darker: what it shows is that the panel is lit and that you looked.</source>
-        <translation>Kiv אינו יכול לשנות את תאורת הצג. התמונה היא שנעשית בהירה או כהה: כך רואים שהצג מואר ושהבטתם בו.</translation>
+        <translation>‏Kiv אינו יכול לשנות את תאורת הצג. התמונה היא שנעשית בהירה או כהה: כך רואים שהצג מואר ושהבטתם בו.</translation>
     </message>
     <message id="kiv-backlight-question">
         <source>What has the panel become?</source>
@@ -2234,7 +2305,7 @@
     </message>
     <message id="kiv-led-note">
         <source>Kiv cannot switch this light: it shows what the phone wants to tell, such as that it charges.</source>
-        <translation>Kiv אינו יכול להדליק את הנורית: היא מראה מה שהטלפון רוצה להודיע, כגון שהוא נטען.</translation>
+        <translation>‏Kiv אינו יכול להדליק את הנורית: היא מראה מה שהטלפון רוצה להודיע, כגון שהוא נטען.</translation>
     </message>
     <message id="kiv-led-step-colour">
         <source>Say what the light does</source>
@@ -2295,7 +2366,7 @@
     <message id="kiv-led-good">
         <source>The operator saw the light while the phone charged (%1), and saw it go out.</source>
         <extracomment>What the operator saw of the notification light</extracomment>
-        <translation>המפעיל ראה את הנורית בזמן הטעינה (%1) וראה אותה נכבית.</translation>
+        <translation>המפעיל ראה את הנורית בזמן הטעינה (⁨%1⁩) וראה אותה נכבית.</translation>
     </message>
     <message id="kiv-vibrator-none">
         <source>None</source>
@@ -2316,7 +2387,7 @@
     <message id="kiv-plot-range">
         <source>%1 to %2</source>
         <extracomment>The least and the greatest reading so far</extracomment>
-        <translation>%1 עד %2</translation>
+        <translation>‏⁨%1⁩ עד ⁨%2⁩</translation>
     </message>
     <message id="kiv-mode-engineer">
         <source>Engineer&apos;s view</source>
@@ -2369,12 +2440,12 @@
     <message id="kiv-run-in-end-temperature">
         <source>The battery reached %1.</source>
         <extracomment>A temperature</extracomment>
-        <translation>הסוללה הגיעה ל־%1.</translation>
+        <translation>הסוללה הגיעה ל־⁨%1⁩.</translation>
     </message>
     <message id="kiv-run-in-end-restart">
         <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
         <extracomment>Two times at which the phone was started</extracomment>
-        <translation>בתחילה היה זמן ההפעלה של הטלפון %1 ובסוף %2: הוא הופעל מחדש, או שהשעון שלו כוון.</translation>
+        <translation>בתחילה היה זמן ההפעלה של הטלפון ⁨%1⁩ ובסוף ⁨%2⁩: הוא הופעל מחדש, או שהשעון שלו כוון.</translation>
     </message>
     <message id="kiv-run-in-end-operator">
         <source>The operator ended it.</source>
@@ -2403,7 +2474,7 @@
     <message id="kiv-run-in-attended">
         <source>These need an operator and stay not tested: %1</source>
         <extracomment>Names of tests</extracomment>
-        <translation>הבדיקות האלה דורשות מפעיל ונשארות לא בדוקות: %1</translation>
+        <translation>הבדיקות האלה דורשות מפעיל ונשארות לא בדוקות: ⁨%1⁩</translation>
     </message>
     <message id="kiv-run-in-stop-on-failure">
         <source>Stop at the first failure</source>
@@ -2416,7 +2487,7 @@
     <message id="kiv-run-in-limit">
         <source>Stop when the battery reaches %1</source>
         <extracomment>A temperature</extracomment>
-        <translation>לעצור כשהסוללה מגיעה ל־%1</translation>
+        <translation>לעצור כשהסוללה מגיעה ל־⁨%1⁩</translation>
     </message>
     <message id="kiv-run-in-no-limit">
         <source>Do not stop for the battery&apos;s temperature</source>
@@ -2425,7 +2496,7 @@
     <message id="kiv-run-in-machine-start">
         <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
         <extracomment>A date and time</extracomment>
-        <translation>הטלפון הזה הופעל ב־%1. אם הרצה הסתיימה בלי תוצאה, הפעלה שאירעה מאז היא הסיבה.</translation>
+        <translation>הטלפון הזה הופעל ב־⁨%1⁩. אם הרצה הסתיימה בלי תוצאה, הפעלה שאירעה מאז היא הסיבה.</translation>
     </message>
     <message id="kiv-run-in-total">
         <source>Loops: %1, time: %2</source>
@@ -2435,7 +2506,7 @@
     <message id="kiv-run-in-failure">
         <source>%1, loop %2</source>
         <extracomment>A test that failed, and the number of the loop</extracomment>
-        <translation>%1, סבב %2</translation>
+        <translation>‏%1, סבב %2</translation>
     </message>
     <message id="kiv-run-in-stop">
         <source>End the run-in</source>
@@ -2454,7 +2525,7 @@
     <message id="kiv-summary-absent">
         <source>Not on this phone: %1</source>
         <extracomment>The features that the phone&apos;s configuration and a look at its hardware rule out</extracomment>
-        <translation>לא קיים בטלפון הזה: %1</translation>
+        <translation>לא קיים בטלפון הזה: ⁨%1⁩</translation>
     </message>
     <message id="kiv-summary-timed-out">
         <source>The time had run out</source>
@@ -2472,7 +2543,7 @@
     <message id="kiv-overrule-text">
         <source>Measured: %1. The summary will show that you decided otherwise.</source>
         <extracomment>The verdict that the phone has measured</extracomment>
-        <translation>נמדד: %1. בסיכום יופיע שהחלטתם אחרת.</translation>
+        <translation>נמדד: ⁨%1⁩. בסיכום יופיע שהחלטתם אחרת.</translation>
     </message>
     <message id="kiv-overrule-equipment">
         <source>A tool or an accessory was at fault</source>
@@ -2539,84 +2610,18 @@
         <source>Skip</source>
         <translation>דילוג</translation>
     </message>
-    <message id="kiv-microphone-unplayed">
-        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-unreached">
-        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-putting-back">
-        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-no-level">
-        <source>The phone shows no level. Listen to the recording afterwards.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-silent">
-        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-left">
-        <source>Left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-right">
-        <source>Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-none">
-        <source>Neither, or I cannot tell</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-wrong">
-        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
-        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-good">
-        <source>The operator heard every tone from its side: %1 of %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-question">
-        <source>From which side does the tone come? Question %1 of %2</source>
-        <extracomment>Number of this question and of all of them</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-again">
-        <source>Play the tone again</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-play">
-        <source>Play the tone</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-unswitched">
-        <source>The sound server does not switch to the output %1.</source>
-        <extracomment>The name of the output in the sound server</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-hint">
-        <source>Answer from which side each tone comes: the answers are the verdict.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-lost">
-        <source>The sound server takes no more sound.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-fm-radio-working">
-        <source>Waiting for the audio policy</source>
-        <translation type="unfinished"></translation>
+        <translation>הכתובת תקינה, והרדיו סיים לחפש.</translation>
     </message>
     <message id="kiv-wifi-found">
         <source>The address is in order, and the radio was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכתובת תקינה, והרדיו נמצא.</translation>
+    </message>
+    <message id="kiv-layout-direction">
+        <source>LTR</source>
+        <extracomment>&quot;LTR&quot;, or &quot;RTL&quot; for a language that is written from right to left</extracomment>
+        <translation>RTL</translation>
     </message>
 </context>
 </TS>

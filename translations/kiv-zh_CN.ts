@@ -1265,7 +1265,7 @@
     <message id="kiv-microphone-missing">
         <source>The sound server has no built-in microphone, or its tool does not answer.</source>
         <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
-        <translation type="unfinished">音频服务没有应答，或没有内置麦克风。</translation>
+        <translation>音频服务没有内置麦克风，或其工具没有应答。</translation>
     </message>
     <message id="kiv-microphone-hint">
         <source>Pass unlocks when a recording has been played back.</source>
@@ -1294,7 +1294,7 @@
     <message id="kiv-sound-missing">
         <source>The sound server has no main output, or its tool does not answer.</source>
         <oldsource>The sound server does not answer, or it has no main output.</oldsource>
-        <translation type="unfinished">音频服务没有应答，或没有主输出。</translation>
+        <translation>音频服务没有主输出，或其工具没有应答。</translation>
     </message>
     <message id="kiv-sound-hint">
         <source>Pass unlocks when every sound has been played.</source>
@@ -1355,6 +1355,77 @@
     <message id="kiv-fm-radio-refused">
         <source>The radio could not be switched on: the audio policy does not answer or does not offer it.</source>
         <translation>无法打开收音机：音频策略没有应答或不支持。</translation>
+    </message>
+    <message id="kiv-microphone-unplayed">
+        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <translation>音频服务没有播放录音：Kiv 运行期间它重新启动过。请重启 Kiv。</translation>
+    </message>
+    <message id="kiv-sound-unreached">
+        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
+        <translation>音频服务没有应答。请在其运行后重试；如果仍不行，请重启 Kiv。</translation>
+    </message>
+    <message id="kiv-microphone-putting-back">
+        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
+        <translation>正在恢复麦克风设置。如果音频服务没有应答，最多需要两分钟。</translation>
+    </message>
+    <message id="kiv-microphone-no-level">
+        <source>The phone shows no level. Listen to the recording afterwards.</source>
+        <translation>手机不显示电平。请稍后收听录音。</translation>
+    </message>
+    <message id="kiv-microphone-silent">
+        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
+        <translation>什么也没听到？那么麦克风失灵，或 /tmp 文件夹已满：一段录音约需 800 kB。</translation>
+    </message>
+    <message id="kiv-side-left">
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message id="kiv-side-right">
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message id="kiv-side-none">
+        <source>Neither, or I cannot tell</source>
+        <translation>都不是，或听不出来</translation>
+    </message>
+    <message id="kiv-sides-wrong">
+        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
+        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
+        <translation>在“%1”侧播放的音，听到的是“%2”侧</translation>
+    </message>
+    <message id="kiv-sides-good">
+        <source>The operator heard every tone from its side: %1 of %1</source>
+        <translation>操作员听出了每个音所在的一侧：%1 / %1</translation>
+    </message>
+    <message id="kiv-sides-question">
+        <source>From which side does the tone come? Question %1 of %2</source>
+        <extracomment>Number of this question and of all of them</extracomment>
+        <translation>声音来自哪一侧？第 %1 题，共 %2 题</translation>
+    </message>
+    <message id="kiv-sides-again">
+        <source>Play the tone again</source>
+        <translation>再播放一遍</translation>
+    </message>
+    <message id="kiv-sides-play">
+        <source>Play the tone</source>
+        <translation>播放声音</translation>
+    </message>
+    <message id="kiv-sound-unswitched">
+        <source>The sound server does not switch to the output %1.</source>
+        <extracomment>The name of the output in the sound server</extracomment>
+        <translation>音频服务没有切换到输出 %1。</translation>
+    </message>
+    <message id="kiv-sides-hint">
+        <source>Answer from which side each tone comes: the answers are the verdict.</source>
+        <translation>回答每个音来自哪一侧：由回答得出判定。</translation>
+    </message>
+    <message id="kiv-sound-lost">
+        <source>The sound server takes no more sound.</source>
+        <translation>音频服务不再接收声音。</translation>
+    </message>
+    <message id="kiv-fm-radio-working">
+        <source>Waiting for the audio policy</source>
+        <translation>正在等待音频策略</translation>
     </message>
     <message id="kiv-gps-satellite">
         <source>Satellite %1, %2 dB</source>
@@ -2539,84 +2610,18 @@
         <source>Skip</source>
         <translation>跳过</translation>
     </message>
-    <message id="kiv-microphone-unplayed">
-        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-unreached">
-        <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-putting-back">
-        <source>Putting the microphone back. This takes up to two minutes while the sound server does not answer.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-no-level">
-        <source>The phone shows no level. Listen to the recording afterwards.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-microphone-silent">
-        <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-left">
-        <source>Left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-right">
-        <source>Right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-side-none">
-        <source>Neither, or I cannot tell</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-wrong">
-        <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
-        <extracomment>From which side a tone came, and from which the operator heard it</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-good">
-        <source>The operator heard every tone from its side: %1 of %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-question">
-        <source>From which side does the tone come? Question %1 of %2</source>
-        <extracomment>Number of this question and of all of them</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-again">
-        <source>Play the tone again</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-play">
-        <source>Play the tone</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-unswitched">
-        <source>The sound server does not switch to the output %1.</source>
-        <extracomment>The name of the output in the sound server</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sides-hint">
-        <source>Answer from which side each tone comes: the answers are the verdict.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-sound-lost">
-        <source>The sound server takes no more sound.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-fm-radio-working">
-        <source>Waiting for the audio policy</source>
-        <translation type="unfinished"></translation>
+        <translation>地址正常，且蓝牙已搜索。</translation>
     </message>
     <message id="kiv-wifi-found">
         <source>The address is in order, and the radio was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>地址正常，且找到无线模块。</translation>
+    </message>
+    <message id="kiv-layout-direction">
+        <source>LTR</source>
+        <extracomment>&quot;LTR&quot;, or &quot;RTL&quot; for a language that is written from right to left</extracomment>
+        <translation>LTR</translation>
     </message>
 </context>
 </TS>

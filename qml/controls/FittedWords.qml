@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
+import "Breaks.js" as Breaks
 
 /*! Words that break between words only: one that is too long for the line makes the letters smaller. */
 Words {
@@ -17,6 +18,6 @@ Words {
         font.family: words.font.family
         font.weight: words.font.weight
         font.pixelSize: words.largest
-        text: words.text.split(" ").reduce(function(a, b) { return b.length > a.length ? b : a; }, "") + "."
+        text: Breaks.longest(words.text) + "."
     }
 }

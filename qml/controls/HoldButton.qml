@@ -38,6 +38,7 @@ T.DelayButton {
         border.color: button.ink
 
         Rectangle {
+            anchors.left: parent.left
             width: parent.width * button.progress
             height: parent.height
             radius: parent.radius

@@ -13,6 +13,11 @@ Item {
     implicitWidth: size
     implicitHeight: size
     Accessible.ignored: true
+    // What points the way points the other way where reading begins at the right.
+    transform: Scale {
+        origin.x: icon.size / 2
+        xScale: Theme.mirrored && (icon.name === "back" || icon.name === "next") ? -1 : 1
+    }
 
     Repeater {
         model: Glyphs.strokes(icon.name, icon.size)

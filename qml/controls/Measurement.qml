@@ -43,7 +43,7 @@ QtObject {
             //% "no reading"
             return qsTrId("kiv-reading-missing");
         if (typeof value === "number")
-            return number(value) + (unit === "" ? "" : "\u00a0" + unit);
+            return whole(number(value) + (unit === "" ? "" : "\u00a0" + unit));
         return word(value);
     }
     readonly property string limitsText: {
@@ -90,6 +90,11 @@ QtObject {
             //% "no"
             return qsTrId("kiv-no");
         return words[something] || String(something);
+    }
+
+    /*! Keeps sign, number and unit in their order among words that are written from right to left. */
+    function whole(something) {
+        return Theme.mirrored ? "\u2066" + something + "\u2069" : something;
     }
 
     function number(something) {

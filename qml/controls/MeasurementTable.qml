@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
+import "Breaks.js" as Breaks
 
 /*! The readings of a page, one a line: name and limits, value and unit, result. */
 Column {
@@ -39,7 +40,7 @@ Column {
             TextMetrics {
                 id: longest
                 font: title.font
-                text: line.reading.name.split(" ").reduce(function(a, b) { return b.length > a.length ? b : a; }, "")
+                text: Breaks.longest(line.reading.name)
             }
             Column {
                 id: names

@@ -24,7 +24,8 @@ T.AbstractButton {
     contentItem: Item {
         Rectangle {
             id: disc
-            x: Theme.margin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.margin
             anchors.verticalCenter: parent.verticalCenter
             width: 6 * Theme.unit
             height: width

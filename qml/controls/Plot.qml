@@ -16,6 +16,7 @@ Item {
 
     Column {
         id: words
+        anchors.left: parent.left
         width: 0.45 * parent.width
         anchors.verticalCenter: parent.verticalCenter
 

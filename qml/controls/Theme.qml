@@ -11,6 +11,10 @@ QtObject {
     property real width: panel ? panel.width : 360
     property real height: panel ? panel.height : 640
     readonly property var panel: Qt.application.screens[0]
+    /*! Whether reading begins at the right; the catalogue that is in use says so. */
+    //: "LTR", or "RTL" for a language that is written from right to left
+    //% "LTR"
+    readonly property bool mirrored: qsTrId("kiv-layout-direction") === "RTL"
     property bool dark: false
 
     readonly property int unit: Math.max(4, Math.floor(Math.min(width / 45, height / 72)))

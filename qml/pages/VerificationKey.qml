@@ -73,7 +73,8 @@ TestPage {
 
             Icon {
                 id: mark
-                x: Theme.margin
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.margin
                 anchors.verticalCenter: parent.verticalCenter
                 name: line.isSeen && !line.isHeld ? "pass" : "key"
                 color: line.ink

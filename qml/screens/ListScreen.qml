@@ -68,7 +68,8 @@ Item {
             contentItem: Item {
                 Icon {
                     id: glyph
-                    x: Theme.margin
+                    anchors.left: parent.left
+                    anchors.leftMargin: Theme.margin
                     anchors.verticalCenter: parent.verticalCenter
                     name: line.entry.row.glyph
                     size: 3.5 * Theme.unit

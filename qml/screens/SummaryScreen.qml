@@ -175,7 +175,8 @@ Item {
 
             Icon {
                 id: mark
-                x: Theme.margin
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.margin
                 anchors.verticalCenter: parent.verticalCenter
                 name: line.look.glyph
                 color: Theme[line.look.ink]

@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickView>
 #include <QScreen>
@@ -20,6 +21,8 @@ namespace
 {
 const QStringList Screens{QStringLiteral("disclaimer"), QStringLiteral("home"), QStringLiteral("settings"),
                           QStringLiteral("list"), QStringLiteral("summary")};
+const QRegularExpression WordBreak(QStringLiteral("[\\s-]+|(?=\\p{Han})|(?<=\\p{Han})"),
+                                   QRegularExpression::UseUnicodePropertiesOption);
 const QString Pages = QStringLiteral(KIV_PAGES);
 
 int coloursOf(const QImage &image)
@@ -73,10 +76,9 @@ void findFaults(const QQuickItem *item, const QQuickItem *root, qreal unit, QStr
         const QQuickItem *const button = ancestor(item, "QQuickAbstractButton");
         if (button && !placeIn(button, root).adjusted(-1, -1, 1, 1).contains(place))
             *faults << QStringLiteral("outside its button: %1").arg(text);
-        // A word that had to be broken in the middle: no line is as wide as it.
+        // A word that had to be broken in the middle: no line is as wide as it. Chinese breaks after any character.
         const QFontMetricsF metrics(item->property("font").value<QFont>());
-        const QStringList words =
-            item->property("text").toString().split(QRegularExpression(QStringLiteral("[\\s-]+")));
+        const QStringList words = item->property("text").toString().split(WordBreak);
         for (const QString &word : words) {
             if (item->property("textFormat").toInt() == Qt::PlainText
                 && metrics.horizontalAdvance(word) > item->width() + 1 && !word.contains(QLatin1Char('/'))
@@ -112,6 +114,7 @@ private:
     const QString m_language;
     QTranslator m_engineering;
     QTranslator m_localised;
+    QStringList m_faulty;
     int m_phone = -1;
 };
 
@@ -126,7 +129,6 @@ void tst_Screens::initTestCase()
         QCoreApplication::installTranslator(&m_localised);
     }
     QLocale::setDefault(QLocale(m_language));
-    QGuiApplication::setLayoutDirection(QLocale(m_language).textDirection());
     m_phone = registerFakeTypes();
 }
 
@@ -191,7 +193,8 @@ void tst_Screens::look(const QString &page, bool hardware, QQuickView *view)
     findFaults(root, root, size.width() / 45, &faults);
     for (const QString &fault : qAsConst(faults))
         qWarning().noquote() << page << (hardware ? "" : "without hardware") << fault;
-    QVERIFY2(faults.isEmpty(), qPrintable(page));
+    if (!faults.isEmpty() && !m_faulty.contains(page))
+        m_faulty << page;
 }
 
 void tst_Screens::looksRight_data()
@@ -205,6 +208,7 @@ void tst_Screens::looksRight_data()
 void tst_Screens::looksRight()
 {
     QFETCH(QSize, size);
+    m_faulty.clear();
 
     QQuickView view;
     view.setResizeMode(QQuickView::SizeRootObjectToView);
@@ -216,6 +220,9 @@ void tst_Screens::looksRight()
     QCOMPARE(view.status(), QQuickView::Ready);
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QQuickItem *const root = view.rootObject();
+    QCOMPARE(QQmlProperty::read(root, QStringLiteral("LayoutMirroring.enabled"), qmlContext(root)),
+             QVariant(QLocale(m_language).textDirection() == Qt::RightToLeft));
 
     for (const QString &page : Screens + testsWithPages()) {
         for (const bool hardware : {true, false}) {
@@ -224,6 +231,7 @@ void tst_Screens::looksRight()
                 return;
         }
     }
+    QCOMPARE(m_faulty, QStringList());
 }
 
 int main(int argc, char **argv)
