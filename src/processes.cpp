@@ -225,7 +225,8 @@ int Processes::rowCount(const QModelIndex &parent) const
 
 QVariant Processes::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || index.row() >= rowCount())
+    // Not by rowCount(): until the next sample a view still has the rows that a new limit leaves out.
+    if (!index.isValid() || index.row() >= int(m_rows.size()))
         return QVariant();
     const Process &process = *m_rows[size_t(index.row())];
     switch (role) {

@@ -13,6 +13,7 @@
 namespace
 {
 constexpr size_t ChunkSize = 4096; // one sysfs attribute fits into a page
+constexpr int MaximumSize = 1 << 24; // some files never end, and memory does
 
 ssize_t readChunk(int fd, char *buffer)
 {
@@ -23,7 +24,7 @@ ssize_t readChunk(int fd, char *buffer)
     return size;
 }
 
-/*! Reads until the delimiter, which is left out, or to the end where there is none. */
+/*! Reads until the delimiter, which is left out, or to the end where there is none, but not for ever. */
 QByteArray readUntil(const QString &path, int delimiter)
 {
     // A pipe that lies in the file's place must not hold up the page. Files do not care.
@@ -33,8 +34,8 @@ QByteArray readUntil(const QString &path, int delimiter)
 
     QByteArray content("");
     char buffer[ChunkSize];
-    ssize_t size;
-    while ((size = readChunk(file.get(), buffer)) > 0) {
+    ssize_t size = 0;
+    while (content.size() < MaximumSize && (size = readChunk(file.get(), buffer)) > 0) {
         const auto *const end =
             delimiter < 0 ? nullptr : static_cast<const char *>(std::memchr(buffer, delimiter, size_t(size)));
         content.append(buffer, end ? int(end - buffer) : int(size));

@@ -7,11 +7,14 @@
 
 /*!
  * First line of a kernel file or other small file, without its newline. Null (isNull()) when the file cannot be opened
- * or read, empty when it is empty. There is no limit to the length of the line.
+ * or read, empty when it is empty. A line of 16 MiB or more is cut off there.
  */
 QByteArray readFirstLine(const QString &path);
 
-/*! The whole file, also where it claims to be empty as those in procfs do. Null when it cannot be opened or read. */
+/*!
+ * The whole file, also where it claims to be empty as those in procfs do. Null when it cannot be opened or read. A file
+ * of 16 MiB or more is cut off there.
+ */
 QByteArray readWholeFile(const QString &path);
 
 #endif

@@ -333,8 +333,13 @@ void tst_Processes::limitsRows()
     QVERIFY(!model.index(3).isValid());
     refresh(&model);
     QCOMPARE(model.count(), 3);
+    // A view is not told of the limit, and has all its rows until the next sample.
+    const QModelIndex shown = model.index(2);
+    const QVariant pid = shown.data(PidRole);
+    QVERIFY(pid.toInt() > 0);
     model.setLimit(0);
     QCOMPARE(model.count(), 0);
+    QCOMPARE(shown.data(PidRole), pid);
     model.setLimit(-7);
     QVERIFY(model.count() >= 11);
     model.setLimit(1000000);

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void isNullForWhatCannotBeRead_data();
     void isNullForWhatCannotBeRead();
     void doesNotWaitForAPipe();
+    void doesNotReadForEver();
     void leavesNothingOpen();
 };
 
@@ -118,6 +119,13 @@ void tst_SysFile::doesNotWaitForAPipe()
     // Without the flag the first of these never returns, and the test's time runs out.
     QVERIFY(readFirstLine(Path).isEmpty());
     QVERIFY(readWholeFile(Path).isEmpty());
+}
+
+void tst_SysFile::doesNotReadForEver()
+{
+    QVERIFY(QFile::link(QStringLiteral("/dev/zero"), Path));
+    QCOMPARE(readFirstLine(Path), QByteArray(1 << 24, '\0'));
+    QCOMPARE(readWholeFile(Path), QByteArray(1 << 24, '\0'));
 }
 
 void tst_SysFile::leavesNothingOpen()

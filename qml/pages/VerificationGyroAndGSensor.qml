@@ -92,6 +92,15 @@ TestPage {
             liveZ.value = reading.z;
         }
     }
+    Gyroscope {
+        // GyroSensor tells nothing but the averages in the end.
+        active: page.isOpen && page.wantsRotation && !page.measured
+        onReadingChanged: {
+            turnX.value = reading.x;
+            turnY.value = reading.y;
+            turnZ.value = reading.z;
+        }
+    }
     GyroSensor {
         id: gyroscope
     }
