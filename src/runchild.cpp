@@ -53,7 +53,7 @@ ChildResult runChild(const QString &program, const QStringList &arguments, std::
     result.started = process.waitForStarted(int(timeout.count()));
     if (result.started) {
         const QDeadlineTimer deadline(timeout);
-        while (process.waitForReadyRead(int(deadline.remainingTime())))
+        while (!deadline.hasExpired() && process.waitForReadyRead(int(deadline.remainingTime())))
             takeOutput();
         result.finished =
             process.state() == QProcess::NotRunning || process.waitForFinished(int(deadline.remainingTime()));

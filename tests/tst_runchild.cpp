@@ -32,6 +32,7 @@ private Q_SLOTS:
     void tellsWhatCannotBeStarted_data();
     void tellsWhatCannotBeStarted();
     void killsWhatTakesTooLong();
+    void killsWhatNeverStopsPrinting();
     void doesNotWaitForGrandchildren();
 };
 
@@ -132,6 +133,16 @@ void tst_RunChild::killsWhatTakesTooLong()
     QVERIFY(child > 0);
     QCOMPARE(::kill(child, 0), -1); // gone and collected
     QVERIFY(log.all().isEmpty());
+}
+
+void tst_RunChild::killsWhatNeverStopsPrinting()
+{
+    QElapsedTimer timer;
+    timer.start();
+    const ChildResult result = shell("cat /dev/zero & cat /dev/zero & exec cat /dev/zero", std::chrono::milliseconds(1000));
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!result.finished);
+    QCOMPARE(result.output.size(), MaximumChildOutput);
 }
 
 void tst_RunChild::doesNotWaitForGrandchildren()
