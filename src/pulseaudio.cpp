@@ -147,9 +147,17 @@ void PulseAudio::refresh()
     m_process->setProcessEnvironment(toolEnvironment());
     m_process->setStandardErrorFile(QProcess::nullDevice());
     connect(m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, &PulseAudio::onFinished);
+    connect(m_process, &QProcess::readyReadStandardOutput, this, &PulseAudio::onReadyRead);
     // Queued, because the process does not survive it if a page is closed by what follows from its error.
     connect(m_process, &QProcess::errorOccurred, this, &PulseAudio::onErrorOccurred, Qt::QueuedConnection);
     m_process->start(Tool, ToolArguments, QIODevice::ReadOnly);
+}
+
+void PulseAudio::onReadyRead()
+{
+    // A tool that never stops printing would fill the memory before the next poll.
+    if (m_process->bytesAvailable() > MaximumChildOutput)
+        m_process->kill();
 }
 
 void PulseAudio::onFinished(int exitCode, QProcess::ExitStatus status)

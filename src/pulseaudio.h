@@ -55,6 +55,7 @@ private:
     static SinkInput parseBlock(const QStringRef &block);
     static void parseLine(const QStringRef &line, SinkInput *sinkInput);
 
+    void onReadyRead();
     void onFinished(int exitCode, QProcess::ExitStatus status);
     void onErrorOccurred();
     void parse(const QString &text);

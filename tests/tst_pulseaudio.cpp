@@ -111,6 +111,7 @@ private Q_SLOTS:
     void isDestroyedByItsOwnSignals();
     void readsAListingInEveryLanguage();
     void largeAndOddOutput();
+    void endsAToolThatNeverStopsPrinting();
 };
 
 void tst_PulseAudio::init()
@@ -479,6 +480,22 @@ void tst_PulseAudio::largeAndOddOutput()
     const PulseAudio model;
     QTRY_COMPARE(model.count(), 3001);
     QCOMPARE(rowOf(model, 2999).mediaName.size(), 502);
+}
+
+void tst_PulseAudio::endsAToolThatNeverStopsPrinting()
+{
+    installListing(Playing);
+    PulseAudio model;
+    QTRY_COMPARE(model.count(), 1);
+    installTool("exec cat /dev/zero");
+    const QSignalSpy resets(&model, &PulseAudio::modelReset);
+    QMetaObject::invokeMethod(&model, "refresh");
+    const auto *process = model.findChild<QProcess *>();
+    // Long before the next poll, which would end it, too.
+    QTRY_COMPARE_WITH_TIMEOUT(resets.count(), 1, 4000);
+    QCOMPARE(process->state(), QProcess::NotRunning);
+    QCOMPARE(model.findChild<QProcess *>(), process);
+    QCOMPARE(model.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_PulseAudio)
