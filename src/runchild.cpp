@@ -9,6 +9,9 @@
 
 namespace
 {
+// A driver may hold a process beyond its death. QProcess waits once more for it when it goes, but not for ever either.
+constexpr int DeathTimeoutMs = 5000;
+
 /*! A child that leads a process group of its own, so that a shell goes together with the tools it has started. */
 class GroupLeader : public QProcess
 {
@@ -65,7 +68,7 @@ ChildResult runChild(const QString &program, const QStringList &arguments, std::
         result.exitCode = process.exitCode();
     } else if (process.state() != QProcess::NotRunning) {
         process.killGroup();
-        process.waitForFinished(-1);
+        process.waitForFinished(DeathTimeoutMs);
     }
     return result;
 }

@@ -19,6 +19,8 @@ const QString Shell = QStringLiteral("/bin/sh");
 
 // On a busy phone, whoever else runs gets the processor before each look at the child.
 std::atomic<bool> busyPhone{false};
+// A driver does not let go of the child.
+std::atomic<bool> immortalChild{false};
 
 ChildResult shell(const char *script, std::chrono::milliseconds timeout = ChildTimeout)
 {
@@ -32,6 +34,11 @@ extern "C" Q_DECL_EXPORT int ppoll(pollfd *watched, nfds_t count, const timespec
         ::usleep(2000);
     timespec time = timeout ? *timeout : timespec();
     return int(::syscall(SYS_ppoll, watched, count, timeout ? &time : nullptr, signalMask, _NSIG / 8));
+}
+
+extern "C" Q_DECL_EXPORT int kill(pid_t pid, int signal)
+{
+    return immortalChild ? 0 : int(::syscall(SYS_kill, pid, signal));
 }
 
 class tst_RunChild : public QObject
@@ -49,6 +56,7 @@ private Q_SLOTS:
     void tellsWhatCannotBeStarted();
     void killsWhatTakesTooLong();
     void killsWhatNeverStopsPrinting();
+    void givesUpWhatCannotBeKilled();
     void doesNotWaitForGrandchildren();
 };
 
@@ -166,6 +174,21 @@ void tst_RunChild::killsWhatNeverStopsPrinting()
     const int child = result.output.left(result.output.indexOf('\n')).toInt();
     QVERIFY(child > 0);
     QCOMPARE(::kill(child, 0), -1);
+}
+
+void tst_RunChild::givesUpWhatCannotBeKilled()
+{
+    MessageLog log; // Qt says that it destroys a running process
+    QElapsedTimer timer;
+    timer.start();
+    immortalChild = true;
+    const ChildResult result = shell("echo $$; exec sleep 100", std::chrono::milliseconds(1000));
+    immortalChild = false;
+    QVERIFY2(timer.elapsed() < 60000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!result.finished);
+    const int child = result.output.trimmed().toInt();
+    QVERIFY(child > 0);
+    QCOMPARE(::kill(child, SIGKILL), 0);
 }
 
 void tst_RunChild::doesNotWaitForGrandchildren()
