@@ -2108,8 +2108,9 @@
         <translation>התנגדות פנימית</translation>
     </message>
     <message id="kiv-keylight-instructions">
-        <source>Look at the keys beside the panel. If they have no light, choose Not applicable.</source>
-        <translation>הביטו במקשים שליד הצג. אם אין להם תאורה, בחרו &quot;לא רלוונטי&quot;.</translation>
+        <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
+        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
+        <translation type="unfinished">הביטו במקשים שליד הצג. אם אין להם תאורה, בחרו &quot;לא רלוונטי&quot;.</translation>
     </message>
     <message id="kiv-keylight-note">
         <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>
@@ -2622,6 +2623,111 @@
         <source>LTR</source>
         <extracomment>&quot;LTR&quot;, or &quot;RTL&quot; for a language that is written from right to left</extracomment>
         <translation>RTL</translation>
+    </message>
+    <message id="kiv-camera-dark">
+        <source>The camera delivers no picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-instructions">
+        <source>Move the phone a little and watch the picture. Tap it to see it large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-working">
+        <source>Looking for the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-question">
+        <source>What does the picture do when you move the phone?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-live">
+        <source>It follows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-still">
+        <source>It stands still</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-light">
+        <source>Does the light beside the camera burn?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-stains">
+        <source>Are there stains, stripes or wrong colours in the picture?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-stains-bad">
+        <source>The picture has stains, stripes or wrong colours.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-sharp">
+        <source>Is it sharp?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-sharp-bad">
+        <source>The picture is not sharp.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-flash">
+        <source>The camera lets nobody switch its light. Take a picture with flash in the phone&apos;s own camera program: does it flash?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-flash-bad">
+        <source>The camera does not flash.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-good">
+        <source>The operator saw a live picture without faults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-back-missing">
+        <source>No back camera was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-camera-front-missing">
+        <source>No front camera was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-stopped">
+        <source>The video stopped: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-missing">
+        <source>The system has no decoder for the test video (%1): install one, or test with a video of the phone&apos;s own.</source>
+        <extracomment>The names of the codecs that were tried</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-instructions">
+        <source>Watch the video and count the squares that cross the picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-question">
+        <source>How many squares crossed the picture?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-jerk">
+        <source>Did the picture jerk, tear or show blocks?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-jerk-bad">
+        <source>The video jerks, tears or shows blocks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-good">
+        <source>The operator saw the video run smoothly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-format">
+        <source>Decoder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-video-played">
+        <source>Played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-wifi-working">
+        <source>Asking for the Wi-Fi radio</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -25,7 +25,8 @@ TestPage {
     readonly property bool seeing: view.sourceRect.width > 0
     /*! How the light can be made to burn steadily; -1 where it cannot. */
     property int steadyLight: -1
-    property var still: null
+    /*! A picture that was taken from the camera covers the live one. */
+    property bool stillShown: false
 
     function find() {
         if (!isOpen)
@@ -63,13 +64,17 @@ TestPage {
     }
 
     function showStill(wanted) {
-        still = null;
+        stillShown = false;
+        still.source = "";
         if (!wanted)
             return;
         view.grabToImage(function(picture) {
             // The next answer may have come before the picture.
-            if (page.isOpen && motion.expected === "still")
-                page.still = picture;
+            if (!page.isOpen || motion.expected !== "still")
+                return;
+            // The engine deletes the picture after this; the image keeps what it has taken from it.
+            still.source = picture.url;
+            page.stillShown = true;
         });
     }
 
@@ -92,7 +97,7 @@ TestPage {
         light.stop();
         setLight(false);
         fullScreen = false;
-        still = null;
+        showStill(false);
         loader.active = false;
     }
     onSeeingChanged: if (seeing && patience.running) begin()
@@ -146,10 +151,10 @@ TestPage {
                 autoOrientation: true
             }
             Image {
+                id: still
                 objectName: "still"
                 anchors.fill: parent
-                visible: page.still !== null
-                source: page.still ? page.still.url : ""
+                visible: page.stillShown
             }
         }
         MouseArea {
@@ -165,7 +170,7 @@ TestPage {
         objectName: "motion"
         width: parent.width
         // A still picture has to be there before it can be told from a moving one.
-        ready: page.still !== null || expected !== "still"
+        ready: page.stillShown || expected !== "still"
         rounds: 3
         //% "What does the picture do when you move the phone?"
         question: qsTrId("kiv-camera-question")

@@ -111,6 +111,7 @@ TestPage {
     }
     Challenge {
         id: challenge
+        objectName: "squares"
         width: parent.width
         ready: page.seen
         //% "How many squares crossed the picture?"

@@ -66,6 +66,14 @@ QtObject {
     property int bluetoothError: 0
     property var bluetoothDevices: []
 
+    property var cameras: []
+    property bool cameraDelivers: true
+    property string cameraError
+    property var cameraLightModes: []
+    property bool cameraLight: false
+    property var decoders: []
+    property string videoBreaks
+
     /*! What the pages did to the phone, in order. */
     property var log: []
 
@@ -115,6 +123,15 @@ QtObject {
         streams = [{ mediaName: "\"A song\"", applicationName: "\"Player\"", volumeInfo: "100% 80%", corked: false,
                      muted: true }];
         offersRadio = true;
+        // Positions as in Qt: 1 is the back, 2 the front. Lights: off, and steadily on for a video.
+        cameras = [{ deviceId: "back", displayName: "Back", position: 1 },
+                   { deviceId: "front", displayName: "Front", position: 2 }];
+        cameraDelivers = true;
+        cameraError = "";
+        cameraLightModes = [2, 64];
+        cameraLight = false;
+        decoders = ["mp4", "webm"];
+        videoBreaks = "";
         coverService = "answers";
         coverReady = true;
         coverDocked = false;
@@ -161,6 +178,8 @@ QtObject {
         wireless = [];
         modems = [];
         bluetoothError = 4;
+        cameras = [];
+        decoders = [];
     }
 
     function satellite(identifier, elevation, azimuth, strength, inUse) {

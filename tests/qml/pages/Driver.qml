@@ -46,7 +46,7 @@ TestCase {
     function openTest(name) {
         start(name);
         tryVerify(function() { return page !== null; });
-        tryVerify(function() { return page.isOpen; });
+        tryVerify(function() { return page.isOpen; }, 5000, name);
         // A fake is as fast as the test wants, a page polls once a second.
         return page;
     }
