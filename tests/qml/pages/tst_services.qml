@@ -73,6 +73,14 @@ Driver {
         verdictIs(FactoryUtils.Fail, "did not tell its identifier");
     }
 
+    function test_coverWithAnEndlessIdentifier() {
+        Phone.coverDocked = true;
+        Phone.coverId = "z".repeat(1 << 20);
+        openTest("VerificationZel");
+        tryVerify(function() { return page.seenDocked; });
+        compare(value("Identifier of the cover"), "z".repeat(64) + "…");
+    }
+
     function test_coverServiceThatIsNotReady() {
         Phone.coverReady = false;
         openTest("VerificationZel");
@@ -246,6 +254,16 @@ Driver {
         compare(marks().length, 0);
         sky.satellites = [];
         compare(marks().length, 0);
+    }
+
+    function test_skyOfVeryManyKeepsThoseInUse() {
+        var all = [];
+        for (var i = 1; i <= 10000; ++i)
+            all.push(Phone.satellite(i, 10, i % 360, i % 50, i === 9999));
+        sky.satellites = all;
+        compare(marks().length, sky.limit);
+        verify(marks().some(function(mark) { return mark.used; }));
+        sky.satellites = [];
     }
 
     function test_barsKeepThoseInUseAndTheStrongest() {
