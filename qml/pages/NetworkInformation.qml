@@ -19,7 +19,7 @@ NetworkInfo {
                  name: connected ? networkName(NetworkInfo.WlanMode, 0).slice(0, 64) : "" };
     }
 
-    /*! In percent; undefined where the driver does not tell, and complains of having been asked. */
+    /*! In percent; undefined where the driver does not tell. */
     function wirelessStrength() {
         var percent = networkSignalStrength(NetworkInfo.WlanMode, 0);
         return percent >= 0 ? percent : undefined;

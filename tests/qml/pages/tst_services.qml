@@ -170,7 +170,7 @@ Driver {
     function test_receiverRunsOnlyWhileThePageIsOpen() {
         openTest("VerificationGpsRadio");
         compare(Phone.log, ["receiver on"]);
-        shell.leaveTest();
+        page.close();
         wait(50);
         compare(Phone.log, ["receiver on", "receiver off"]);
     }
@@ -456,6 +456,8 @@ Driver {
         return [
             { tag: "two", expected: 2, modems: [Phone.modem("one"), Phone.modem("two")], verdict: FactoryUtils.Pass },
             { tag: "one too few", expected: 2, modems: [Phone.modem("one")], verdict: FactoryUtils.Fail,
+              reason: "Modems: 1 (at least 2)" },
+            { tag: "one too few, and locked", expected: 2, modems: [locked], verdict: FactoryUtils.Fail,
               reason: "Modems: 1 (at least 2)" },
             { tag: "none", expected: 1, modems: [], verdict: FactoryUtils.Fail, reason: "reports no modem" },
             { tag: "locked", expected: 1, modems: [locked], verdict: "", passes: false },
