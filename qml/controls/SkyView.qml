@@ -4,12 +4,16 @@ import QtQuick 2.15
 /*!
  * The sky from below: north is up, the rim is the horizon, the middle straight above. A satellite in use is a filled disc,
  * one that is only seen a ring. satellites: [{identifier, elevation, azimuth, inUse}], degrees; those whose place is not
- * known are left out.
+ * known are left out, and the weakest of very many.
  */
 Item {
     id: sky
 
     property var satellites: []
+    property int limit: 60
+    readonly property var shown: satellites.length <= limit ? satellites : satellites.slice().sort(function(a, b) {
+        return b.inUse - a.inUse || b.strength - a.strength;
+    }).slice(0, limit)
     readonly property real radius: Math.min(width / 2, 14 * Theme.unit) - 2.5 * Theme.unit
     readonly property real middle: radius + 2.5 * Theme.unit
 
@@ -83,11 +87,11 @@ Item {
         }
         Repeater {
             // A number, so that a report moves the marks instead of making new ones.
-            model: sky.satellites.length
+            model: sky.shown.length
 
             Rectangle {
                 id: mark
-                readonly property var satellite: sky.satellites[index]
+                readonly property var satellite: sky.shown[index]
                 readonly property bool used: satellite !== undefined && satellite.inUse
                 readonly property real distance: visible ? sky.radius * (90 - satellite.elevation) / 90 : 0
                 readonly property real angle: visible ? satellite.azimuth * Math.PI / 180 : 0

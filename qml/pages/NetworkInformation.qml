@@ -16,10 +16,10 @@ NetworkInfo {
         var status = networkStatus(NetworkInfo.WlanMode, 0);
         var connected = isConnected(status);
         return { connected: connected, word: connected ? statusWord(status) : statusWord(NetworkInfo.NoNetworkAvailable),
-                 name: connected ? networkName(NetworkInfo.WlanMode, 0) : "" };
+                 name: connected ? networkName(NetworkInfo.WlanMode, 0).slice(0, 64) : "" };
     }
 
-    /*! In percent; undefined where the driver does not tell, and complains of having been asked. */
+    /*! In percent; undefined where the driver does not tell. */
     function wirelessStrength() {
         var percent = networkSignalStrength(NetworkInfo.WlanMode, 0);
         return percent >= 0 ? percent : undefined;
@@ -35,7 +35,7 @@ NetworkInfo {
         var percent = networkSignalStrength(NetworkInfo.GsmMode, index);
         return { card: imsi(index) !== "", home: (homeMobileCountryCode(index) + " " + homeMobileNetworkCode(index)).trim(),
                  word: statusWord(status), connected: isConnected(status),
-                 name: networkName(NetworkInfo.GsmMode, index), strength: percent >= 0 ? percent : undefined };
+                 name: networkName(NetworkInfo.GsmMode, index).slice(0, 64), strength: percent >= 0 ? percent : undefined };
     }
 
     function isConnected(status) {

@@ -14,6 +14,11 @@ TestPage {
     property bool seenDocked: false
     property bool seenRemoved: false
 
+    // No real one is that long; a text of a megabyte would freeze the screen.
+    function shortened(text) {
+        return text.length > 64 ? text.slice(0, 64) + "…" : text;
+    }
+
     function takeDocked(newDocked) {
         docked = newDocked;
         if (docked)
@@ -64,7 +69,7 @@ TestPage {
                     watch.heard();
                     // It is withdrawn together with the cover.
                     if (zelId !== "")
-                        page.identifier = zelId;
+                        page.identifier = page.shortened(zelId);
                 }
                 onErrorChanged: watch.refused()
             }

@@ -73,6 +73,14 @@ Driver {
         verdictIs(FactoryUtils.Fail, "did not tell its identifier");
     }
 
+    function test_coverWithAnEndlessIdentifier() {
+        Phone.coverDocked = true;
+        Phone.coverId = "z".repeat(1 << 20);
+        openTest("VerificationZel");
+        tryVerify(function() { return page.seenDocked; });
+        compare(value("Identifier of the cover"), "z".repeat(64) + "…");
+    }
+
     function test_coverServiceThatIsNotReady() {
         Phone.coverReady = false;
         openTest("VerificationZel");
@@ -162,7 +170,7 @@ Driver {
     function test_receiverRunsOnlyWhileThePageIsOpen() {
         openTest("VerificationGpsRadio");
         compare(Phone.log, ["receiver on"]);
-        shell.leaveTest();
+        page.close();
         wait(50);
         compare(Phone.log, ["receiver on", "receiver off"]);
     }
@@ -246,6 +254,16 @@ Driver {
         compare(marks().length, 0);
         sky.satellites = [];
         compare(marks().length, 0);
+    }
+
+    function test_skyOfVeryManyKeepsThoseInUse() {
+        var all = [];
+        for (var i = 1; i <= 10000; ++i)
+            all.push(Phone.satellite(i, 10, i % 360, i % 50, i === 9999));
+        sky.satellites = all;
+        compare(marks().length, sky.limit);
+        verify(marks().some(function(mark) { return mark.used; }));
+        sky.satellites = [];
     }
 
     function test_barsKeepThoseInUseAndTheStrongest() {
@@ -438,6 +456,8 @@ Driver {
         return [
             { tag: "two", expected: 2, modems: [Phone.modem("one"), Phone.modem("two")], verdict: FactoryUtils.Pass },
             { tag: "one too few", expected: 2, modems: [Phone.modem("one")], verdict: FactoryUtils.Fail,
+              reason: "Modems: 1 (at least 2)" },
+            { tag: "one too few, and locked", expected: 2, modems: [locked], verdict: FactoryUtils.Fail,
               reason: "Modems: 1 (at least 2)" },
             { tag: "none", expected: 1, modems: [], verdict: FactoryUtils.Fail, reason: "reports no modem" },
             { tag: "locked", expected: 1, modems: [locked], verdict: "", passes: false },
