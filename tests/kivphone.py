@@ -85,7 +85,7 @@ Shell {
                           evidence: !!page && page.evidence, stall: shell.stall,
                           passable: !!page && shell.screen.passUnlocked === true,
                           values: page ? page.measurements.map(function(m) { return m.valueText }) : [] }
-            var more = ["prepared", "played", "playing", "lost", "found", "heard", "trouble", "refused"]
+            var more = ["prepared", "played", "playing", "found", "heard", "trouble", "refused"]
             more.forEach(function(name) {
                 if (page && page[name] !== undefined)
                     state[name] = page[name]

@@ -1419,10 +1419,6 @@
         <source>Answer from which side each tone comes: the answers are the verdict.</source>
         <translation>Antworten Sie, von welcher Seite jeder Ton kommt: Die Antworten sind das Urteil.</translation>
     </message>
-    <message id="kiv-sound-lost">
-        <source>The sound server takes no more sound.</source>
-        <translation>Der Tondienst nimmt keinen Ton mehr an.</translation>
-    </message>
     <message id="kiv-fm-radio-working">
         <source>Waiting for the audio policy</source>
         <translation>Warten auf die Tonsteuerung</translation>

@@ -1404,10 +1404,6 @@
         <source>Answer from which side each tone comes: the answers are the verdict.</source>
         <translation>Vastaa, kummalta puolelta kukin ääni tulee: vastaukset ratkaisevat.</translation>
     </message>
-    <message id="kiv-sound-lost">
-        <source>The sound server takes no more sound.</source>
-        <translation>Äänipalvelu ei ota enää ääntä vastaan.</translation>
-    </message>
     <message id="kiv-fm-radio-working">
         <source>Waiting for the audio policy</source>
         <translation>Odotetaan äänenohjausta</translation>

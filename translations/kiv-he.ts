@@ -1419,10 +1419,6 @@
         <source>Answer from which side each tone comes: the answers are the verdict.</source>
         <translation>ענו מאיזה צד בא כל צליל: התשובות הן ההכרעה.</translation>
     </message>
-    <message id="kiv-sound-lost">
-        <source>The sound server takes no more sound.</source>
-        <translation>שרת הקול אינו מקבל עוד קול.</translation>
-    </message>
     <message id="kiv-fm-radio-working">
         <source>Waiting for the audio policy</source>
         <translation>ממתין לשירות ניתוב הקול</translation>

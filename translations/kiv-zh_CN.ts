@@ -1419,10 +1419,6 @@
         <source>Answer from which side each tone comes: the answers are the verdict.</source>
         <translation>回答每个音来自哪一侧：由回答得出判定。</translation>
     </message>
-    <message id="kiv-sound-lost">
-        <source>The sound server takes no more sound.</source>
-        <translation>音频服务不再接收声音。</translation>
-    </message>
     <message id="kiv-fm-radio-working">
         <source>Waiting for the audio policy</source>
         <translation>正在等待音频策略</translation>

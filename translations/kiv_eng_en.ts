@@ -1419,10 +1419,6 @@
         <source>Answer from which side each tone comes: the answers are the verdict.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message id="kiv-sound-lost">
-        <source>The sound server takes no more sound.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message id="kiv-fm-radio-working">
         <source>Waiting for the audio policy</source>
         <translation type="unfinished"></translation>

@@ -22,8 +22,6 @@ TestPage {
     property bool found: false
     property bool recorded: false
     property bool heard: false
-    /*! What went wrong since the page was opened. */
-    property string trouble
 
     // Qt waits for ever for a server that hangs, so nothing is begun before it has answered.
     function ask(what) {
@@ -145,13 +143,6 @@ TestPage {
         onTriggered: page.ask(page.phase === "recording" ? "play" : "conclude")
     }
 
-    Notice {
-        objectName: "trouble"
-        width: parent.width
-        visible: page.trouble !== ""
-        kind: "fail"
-        text: page.trouble
-    }
     Notice {
         objectName: "phase"
         width: parent.width

@@ -25,8 +25,6 @@ TestPage {
     property string portBefore
     property string playing
     property var played: []
-    /*! The server has gone since the page was opened. */
-    property bool lost: false
     property bool prepared: false
     readonly property bool asking: asksForSides && missing === "" && allPlayed
     readonly property bool allPlayed: sounds.every(function(entry) { return played.indexOf(entry.name) >= 0; })
@@ -61,7 +59,7 @@ TestPage {
     }
 
     function play(name, file, ms) {
-        lost = false;
+        trouble = "";
         playing = name;
         link.play(file, ms);
     }
@@ -74,8 +72,7 @@ TestPage {
     // The question takes its place.
     instructions: asking && ready ? "" : guidance
     exercised: prepared && allPlayed
-    trouble: unattended && lost ? qsTrId("kiv-sound-lost") : ""
-    evidence: missing === "" && !lost && !asksForSides && allPlayed
+    evidence: missing === "" && trouble === "" && !asksForSides && allPlayed
     evidenceHint: asking
                   //% "Answer from which side each tone comes: the answers are the verdict."
                   ? qsTrId("kiv-sides-hint")
@@ -101,11 +98,12 @@ TestPage {
         onReached: page.blocking(qsTrId("kiv-sound-working"), page.prepare)
         onLost: {
             page.playing = "";
+            //% "The sound server does not answer. Try again once it runs. If that does not help, restart Kiv."
+            var words = qsTrId("kiv-sound-unreached");
             if (page.prepared)
-                page.lost = true;
+                page.trouble = words;
             else
-                //% "The sound server does not answer. Try again once it runs. If that does not help, restart Kiv."
-                page.missing = qsTrId("kiv-sound-unreached");
+                page.missing = words;
         }
         onTaken: {
             if (page.playing !== "" && page.played.indexOf(page.playing) < 0)
@@ -113,16 +111,6 @@ TestPage {
             if (page.unattended)
                 page.playNext();
         }
-    }
-
-    Notice {
-        objectName: "lost"
-        width: parent.width
-        visible: page.lost
-        kind: "fail"
-        //% "The sound server takes no more sound."
-        text: qsTrId("kiv-sound-lost")
-        detail: qsTrId("kiv-sound-unreached")
     }
 
     Loader {
