@@ -49,7 +49,11 @@ Shell {
                 shell.flow.clear()
                 shell.begin()
             } else if (words[1] === "press") {
-                shell.find(shell, words[2]).clicked()
+                var button = shell.find(shell, words[2])
+                if (button && button.enabled)
+                    button.clicked()
+                else
+                    console.warn("nothing to press: " + words[2])
             } else if (words[1] === "leave") {
                 shell.leaveTest()
             } else if (words[1] === "quit") {
@@ -59,7 +63,10 @@ Shell {
         request.open("GET", "file://%s")
         request.send()
     }
+    // Nobody presses what he does not see.
     function find(item, name) {
+        if (!item.visible)
+            return null
         if (item.objectName === name)
             return item
         for (var i = 0; i < item.children.length; ++i) {
@@ -68,6 +75,19 @@ Shell {
                 return found
         }
         return null
+    }
+    // What a challenge that can be answered shows.
+    function asked(item) {
+        if (!item || !item.visible)
+            return ""
+        if (item.expected !== undefined && item.mistakes !== undefined && item.ready)
+            return String(item.expected)
+        for (var i = 0; i < item.children.length; ++i) {
+            var found = asked(item.children[i])
+            if (found !== "")
+                return found
+        }
+        return ""
     }
     Timer {
         interval: 100
@@ -82,7 +102,7 @@ Shell {
             var state = { wanted: shell.wanted, open: !!page && page.isOpen, missing: page ? page.missing : "",
                           verdict: page ? page.verdict : "", reason: page ? page.reason : "",
                           left: page ? page.remaining : 0, due: page && page.phase !== undefined ? page.phase : "",
-                          evidence: !!page && page.evidence, stall: shell.stall,
+                          evidence: !!page && page.evidence, asked: shell.asked(page), stall: shell.stall,
                           passable: !!page && shell.screen.passUnlocked === true,
                           values: page ? page.measurements.map(function(m) { return m.valueText }) : [] }
             var more = ["prepared", "played", "playing", "found", "heard", "trouble", "refused"]

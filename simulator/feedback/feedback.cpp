@@ -13,7 +13,8 @@
 
 namespace
 {
-// One line for every pulse: when it began, in milliseconds since the machine's start, how long it lasts, how strong it is.
+// One line for every pulse: when it began, in milliseconds since the machine's start, how long it lasts, how strong it
+// is.
 const QString Record = QStringLiteral("/run/kiv-phone/vibrator/pulses");
 // The phone has a motor as long as this is there.
 const QString Motor = QStringLiteral("/run/kiv-phone/vibrator/motor");
@@ -45,7 +46,7 @@ class Vibrator : public QObject, public QFeedbackHapticsInterface, public QFeedb
     Q_INTERFACES(QFeedbackHapticsInterface QFeedbackThemeInterface)
 
 public:
-    Vibrator() : m_actuator(createFeedbackActuator(this, 0)) {}
+    Vibrator() : m_actuator(createFeedbackActuator(this, 0)) { }
 
     PluginPriority pluginPriority() override { return PluginHighPriority; }
 
@@ -53,7 +54,7 @@ public:
     {
         return QFile::exists(Motor) ? QList<QFeedbackActuator *>{m_actuator} : QList<QFeedbackActuator *>();
     }
-    void setActuatorProperty(const QFeedbackActuator &, ActuatorProperty, const QVariant &) override {}
+    void setActuatorProperty(const QFeedbackActuator &, ActuatorProperty, const QVariant &) override { }
     QVariant actuatorProperty(const QFeedbackActuator &, ActuatorProperty property) override
     {
         switch (property) {
@@ -71,7 +72,7 @@ public:
         return false;
     }
 
-    void updateEffectProperty(const QFeedbackHapticsEffect *, EffectProperty) override {}
+    void updateEffectProperty(const QFeedbackHapticsEffect *, EffectProperty) override { }
     void setEffectState(const QFeedbackHapticsEffect *effect, QFeedbackEffect::State state) override
     {
         if (state == QFeedbackEffect::Running) {
