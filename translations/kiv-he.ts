@@ -480,7 +480,7 @@
     <message id="kiv-mac-criteria">
         <source>must match %1</source>
         <extracomment>A pattern that an address has to match</extracomment>
-        <translation>חייב להתאים ל־⁨%1⁩</translation>
+        <translation>חייב להתאים ל־⁦%1⁩</translation>
     </message>
     <message id="kiv-calibration-good">
         <source>The record is as it must be.</source>
@@ -645,7 +645,7 @@
     <message id="kiv-system-process">
         <source>%1 (%2)</source>
         <extracomment>A process: its name and its number</extracomment>
-        <translation>⁨%1⁩ (⁨%2⁩)</translation>
+        <translation>⁦%1⁩ (⁦%2⁩)</translation>
     </message>
     <message id="kiv-touch-self-instructions">
         <source>The touch controller tests itself. Keep fingers off the panel.</source>
@@ -1212,7 +1212,7 @@
     <message id="kiv-settings-microphone">
         <source>%1, channel %2</source>
         <extracomment>A microphone of the sound server and its channel</extracomment>
-        <translation>‏⁨%1⁩, ערוץ ⁨%2⁩</translation>
+        <translation>‏⁦%1⁩, ערוץ ⁦%2⁩</translation>
     </message>
     <message id="kiv-settings-microphone-bottom">
         <source>Lower microphone</source>
@@ -1568,7 +1568,7 @@
     </message>
     <message id="kiv-bluetooth-good">
         <source>The address is in order, and the radio found a device: %1</source>
-        <translation>הכתובת תקינה, והרדיו מצא התקן: ⁨%1⁩</translation>
+        <translation>הכתובת תקינה, והרדיו מצא התקן: ⁦%1⁩</translation>
     </message>
     <message id="kiv-bluetooth-instructions-blind">
         <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds devices.</source>
@@ -1830,7 +1830,7 @@
     </message>
     <message id="kiv-zel-good">
         <source>The cover was seen to come and go. Its identifier: %1</source>
-        <translation>הכיסוי זוהה מתחבר ומוסר. המזהה שלו: ⁨%1⁩</translation>
+        <translation>הכיסוי זוהה מתחבר ומוסר. המזהה שלו: ⁦%1⁩</translation>
     </message>
     <message id="kiv-zel-nameless">
         <source>The cover was seen to come and go, but it did not tell its identifier.</source>

@@ -56,13 +56,13 @@ QtObject {
         if (!isNaN(minimum) && !isNaN(maximum))
             //: Limits of a reading: the lowest, the highest, the unit
             //% "%1 to %2 %3"
-            return qsTrId("kiv-limits-range").arg(number(minimum)).arg(number(maximum)).arg(unit).trim();
+            return qsTrId("kiv-limits-range").arg(whole(number(minimum))).arg(whole(number(maximum))).arg(unit).trim();
         if (!isNaN(minimum))
             //% "at least %1 %2"
-            return qsTrId("kiv-limits-minimum").arg(number(minimum)).arg(unit).trim();
+            return qsTrId("kiv-limits-minimum").arg(whole(number(minimum))).arg(unit).trim();
         if (!isNaN(maximum))
             //% "at most %1 %2"
-            return qsTrId("kiv-limits-maximum").arg(number(maximum)).arg(unit).trim();
+            return qsTrId("kiv-limits-maximum").arg(whole(number(maximum))).arg(unit).trim();
         return "";
     }
     readonly property string resultText: {
