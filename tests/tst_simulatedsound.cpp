@@ -27,6 +27,7 @@ private Q_SLOTS:
     void microphones_data();
     void microphones();
     void streams();
+    void playback();
     void routes();
     void serverThatCrashes();
 };
@@ -174,11 +175,13 @@ void tst_SimulatedSound::microphones()
     recorder.setKivMode(true);
     recorder.record();
     QVERIFY(pactl(QStringLiteral("list sinks")).contains("droid.parameter.kivmode = \"on\""));
-    QTRY_VERIFY_WITH_TIMEOUT(recording().size() > 4 * Rate, 20000);
+    // On a busy machine it takes a while until the server has worked off what it heard through the other port.
+    const auto hears = [&] {
+        const QByteArray frames = recording();
+        return frames.size() > 4 * Rate && qAbs(toneOf(frames, 0) - left) < 6 && qAbs(toneOf(frames, 1) - right) < 6;
+    };
+    QTRY_VERIFY2_WITH_TIMEOUT(hears(), qPrintable(QString::number(toneOf(recording(), 0))), 30000);
     recorder.stop();
-    const QByteArray frames = recording();
-    QVERIFY2(qAbs(toneOf(frames, 0) - left) < 6, qPrintable(QString::number(toneOf(frames, 0))));
-    QVERIFY2(qAbs(toneOf(frames, 1) - right) < 6, qPrintable(QString::number(toneOf(frames, 1))));
     QCOMPARE(PaCmd().builtinSourceActivePort(), QStringLiteral("input-builtin_mic"));
     QVERIFY(pactl(QStringLiteral("list sinks")).contains("droid.parameter.kivmode = \"off\""));
 }
@@ -211,6 +214,24 @@ void tst_SimulatedSound::streams()
     poll(&model);
     QTRY_COMPARE(model.count(), 0);
     QCOMPARE(counts.count(), 2);
+}
+
+void tst_SimulatedSound::playback()
+{
+    const auto streams = [] { return pactl(QStringLiteral("list sink-inputs")); };
+    Recorder recorder;
+    recorder.record();
+    QTRY_VERIFY_WITH_TIMEOUT(recording().size() > 2 * Rate, 20000);
+    recorder.setCategory(QStringLiteral("phone"));
+    recorder.play();
+    QTRY_VERIFY(streams().contains("\t\tmedia.role = \"phone\"\n"));
+    PulseAudio model;
+    QTRY_COMPARE(model.count(), 1);
+    QVERIFY(streams().contains("\tSample Specification: s16le 2ch 48000Hz\n"));
+    recorder.stop();
+    QTRY_VERIFY(streams().trimmed().isEmpty());
+    poll(&model);
+    QTRY_COMPARE(model.count(), 0);
 }
 
 void tst_SimulatedSound::routes()
