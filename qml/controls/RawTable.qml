@@ -26,19 +26,18 @@ Column {
         Repeater {
             model: table.rows
 
-            Row {
+            // Below each other: the names are longer than half a line, and have no place to break.
+            Column {
                 width: parent.width
-                spacing: Theme.gap
 
                 Words {
-                    width: 0.48 * (parent.width - parent.spacing)
+                    width: parent.width
                     text: modelData.name
                     color: Theme.muted
                     font.pixelSize: Theme.small
-                    wrapMode: Text.WrapAnywhere
                 }
                 Words {
-                    width: 0.52 * (parent.width - parent.spacing)
+                    width: parent.width
                     text: modelData.value
                     font.pixelSize: Theme.small
                     wrapMode: Text.WrapAnywhere

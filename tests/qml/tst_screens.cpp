@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlExpression>
 #include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickView>
@@ -19,8 +20,33 @@
 
 namespace
 {
-const QStringList Screens{QStringLiteral("disclaimer"), QStringLiteral("home"), QStringLiteral("settings"),
-                          QStringLiteral("list"), QStringLiteral("summary")};
+const QStringList Screens{QStringLiteral("disclaimer"), QStringLiteral("home"),    QStringLiteral("settings"),
+                          QStringLiteral("list"),       QStringLiteral("summary"), QStringLiteral("runin"),
+                          QStringLiteral("engineer")};
+
+/*! What lies over a screen, and what it looks like after something has happened; said as the screen's own script. */
+struct State
+{
+    const char *page;
+    const char *script;
+};
+const State States[] = {
+    {"VerificationHallDetect", "askAfterTimeOut()"},
+    {"VerificationHallDetect", "askWhySkipped()"},
+    {"VerificationBattery", "askWhyOverruled('01')"},
+    {"VerificationHallDetect", "shell.showVerdict('03')"},
+    {"VerificationHallDetect", "shell.blocking(qsTrId('kiv-working-probing'), function() {})"},
+    {"summary",
+     "flow.record('VerificationHallDetect', { code: '02', decided: '01', overruled: true, why: 'perceived', "
+     "whyText: qsTrId('kiv-overrule-perceived'), reason: qsTrId('kiv-key-good'), timedOut: true, "
+     "seconds: 754 })"},
+    {"summary", "children[children.length - 1].open(shell.codeText())"},
+    {"runin",
+     "runIn.loop = 12, runIn.elapsed = 7205, runIn.failures = [{ row: runIn.rows[0], loop: 7, "
+     "reason: qsTrId('kiv-run-in-timeout') }], runIn.temperature.add(48.25), runIn.end = 'failure'"},
+    {"runin", "runIn.temperature.add(55.5), runIn.temperature.add(61), runIn.end = 'temperature'"},
+    {"runin", "runIn.machineStart = runIn.machineStartNow = new Date(2026, 1, 2), runIn.end = 'restart'"},
+};
 const QRegularExpression WordBreak(QStringLiteral("[\\s-]+|(?=\\p{Han})|(?<=\\p{Han})"),
                                    QRegularExpression::UseUnicodePropertiesOption);
 const QString Pages = QStringLiteral(KIV_PAGES);
@@ -110,6 +136,7 @@ private Q_SLOTS:
 private:
     QStringList testsWithPages() const;
     void look(const QString &page, bool hardware, QQuickView *view);
+    void examine(const QString &what, QQuickView *view);
 
     const QString m_language;
     QTranslator m_engineering;
@@ -150,8 +177,6 @@ QStringList tst_Screens::testsWithPages() const
 /*! One page in a window that has shown others before, as on the phone. */
 void tst_Screens::look(const QString &page, bool hardware, QQuickView *view)
 {
-    QFETCH(QSize, size);
-
     QObject *const phone = view->engine()->singletonInstance<QObject *>(m_phone);
     QVERIFY(phone);
     QVERIFY(QMetaObject::invokeMethod(phone, "reset"));
@@ -175,6 +200,15 @@ void tst_Screens::look(const QString &page, bool hardware, QQuickView *view)
         QTRY_VERIFY2_WITH_TIMEOUT(screen() && screen()->property("untested").isValid(), qPrintable(page), 20000);
     }
 
+    examine(hardware ? page : page + QStringLiteral(" without hardware"), view);
+}
+
+/*! Looks at what is in the window, in both variants. */
+void tst_Screens::examine(const QString &what, QQuickView *view)
+{
+    QFETCH(QSize, size);
+
+    QQuickItem *const root = view->rootObject();
     for (const bool dark : {true, false}) {
         root->setProperty("dark", dark);
         // What the page found out is laid out in the next frame, and what follows from that in the one after.
@@ -182,19 +216,19 @@ void tst_Screens::look(const QString &page, bool hardware, QQuickView *view)
         for (int frame = 0; frame < 2; ++frame) {
             drawn.clear();
             view->update();
-            QVERIFY2(drawn.wait(20000), qPrintable(page));
+            QVERIFY2(drawn.wait(20000), qPrintable(what));
         }
         // Text alone brings dozens of shades with its smooth edges.
         const int colours = coloursOf(view->screen()->grabWindow(view->winId()).toImage());
-        QVERIFY2(colours > 20, qPrintable(QStringLiteral("%1 shows only %2 colours").arg(page).arg(colours)));
+        QVERIFY2(colours > 20, qPrintable(QStringLiteral("%1 shows only %2 colours").arg(what).arg(colours)));
     }
 
     QStringList faults;
     findFaults(root, root, size.width() / 45, &faults);
     for (const QString &fault : qAsConst(faults))
-        qWarning().noquote() << page << (hardware ? "" : "without hardware") << fault;
-    if (!faults.isEmpty() && !m_faulty.contains(page))
-        m_faulty << page;
+        qWarning().noquote() << what << fault;
+    if (!faults.isEmpty() && !m_faulty.contains(what))
+        m_faulty << what;
 }
 
 void tst_Screens::looksRight_data()
@@ -230,6 +264,20 @@ void tst_Screens::looksRight()
             if (QTest::currentTestFailed())
                 return;
         }
+    }
+    for (const State &state : States) {
+        const QString page = QString::fromLatin1(state.page);
+        const QString script = QString::fromLatin1(state.script);
+        look(page, true, &view);
+        if (QTest::currentTestFailed())
+            return;
+        QObject *const screen = view.rootObject()->property("screen").value<QObject *>();
+        QQmlExpression expression(qmlContext(screen), screen, script);
+        expression.evaluate();
+        QVERIFY2(!expression.hasError(), qPrintable(expression.error().toString()));
+        examine(page + QLatin1Char(' ') + script, &view);
+        if (QTest::currentTestFailed())
+            return;
     }
     QCOMPARE(m_faulty, QStringList());
 }
