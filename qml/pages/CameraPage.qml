@@ -25,7 +25,8 @@ TestPage {
     readonly property bool seeing: view.sourceRect.width > 0
     /*! How the light can be made to burn steadily; -1 where it cannot. */
     property int steadyLight: -1
-    property var still: null
+    /*! Where the still picture is, which the item that shows it keeps in memory. */
+    property url still
 
     function find() {
         if (!isOpen)
@@ -63,13 +64,13 @@ TestPage {
     }
 
     function showStill(wanted) {
-        still = null;
+        still = "";
         if (!wanted)
             return;
         view.grabToImage(function(picture) {
             // The next answer may have come before the picture.
             if (page.isOpen && motion.expected === "still")
-                page.still = picture;
+                page.still = picture.url;
         });
     }
 
@@ -92,7 +93,7 @@ TestPage {
         light.stop();
         setLight(false);
         fullScreen = false;
-        still = null;
+        still = "";
         loader.active = false;
     }
     onSeeingChanged: if (seeing && patience.running) begin()
@@ -146,10 +147,12 @@ TestPage {
                 autoOrientation: true
             }
             Image {
+                id: frozen
                 objectName: "still"
                 anchors.fill: parent
-                visible: page.still !== null
-                source: page.still ? page.still.url : ""
+                cache: false
+                visible: status === Image.Ready
+                source: page.still
             }
         }
         MouseArea {
@@ -165,7 +168,7 @@ TestPage {
         objectName: "motion"
         width: parent.width
         // A still picture has to be there before it can be told from a moving one.
-        ready: page.still !== null || expected !== "still"
+        ready: frozen.status === Image.Ready || expected !== "still"
         rounds: 3
         //% "What does the picture do when you move the phone?"
         question: qsTrId("kiv-camera-question")
