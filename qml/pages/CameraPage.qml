@@ -79,8 +79,9 @@ TestPage {
             camera.flash.mode = on ? steadyLight : Camera.FlashOff;
     }
 
+    // The questions need the room as soon as there is a picture.
     //% "Move the phone a little and watch the picture. Tap it to see it large."
-    instructions: qsTrId("kiv-camera-instructions")
+    instructions: exercised ? "" : qsTrId("kiv-camera-instructions")
     evidence: false
     //% "Pass unlocks when you have answered the questions."
     evidenceHint: qsTrId("kiv-guided-hint")
@@ -121,7 +122,7 @@ TestPage {
         MouseArea {
             anchors.fill: parent
             Accessible.role: Accessible.Button
-            Accessible.name: page.instructions
+            Accessible.name: qsTrId("kiv-camera-instructions")
             onClicked: page.fullScreen = false
         }
     }
@@ -129,7 +130,7 @@ TestPage {
     Item {
         id: place
         width: parent.width
-        height: Math.round(width * 0.66)
+        height: Math.round(width * 0.6)
         visible: page.isOpen && page.missing === ""
 
         Item {
@@ -159,7 +160,7 @@ TestPage {
             anchors.fill: parent
             enabled: page.seeing
             Accessible.role: Accessible.Button
-            Accessible.name: page.instructions
+            Accessible.name: qsTrId("kiv-camera-instructions")
             onClicked: page.fullScreen = true
         }
     }
