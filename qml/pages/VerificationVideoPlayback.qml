@@ -51,7 +51,7 @@ TestPage {
     }
 
     //% "Watch the video and count the squares that cross the picture."
-    instructions: qsTrId("kiv-video-instructions")
+    instructions: seen ? "" : qsTrId("kiv-video-instructions")
     measurements: [format, played]
     evidence: false
     //% "Pass unlocks when you have answered the questions."
