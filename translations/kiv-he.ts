@@ -2106,7 +2106,7 @@
     <message id="kiv-keylight-instructions">
         <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
         <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
-        <translation type="unfinished">הביטו במקשים שליד הצג. אם אין להם תאורה, בחרו &quot;לא רלוונטי&quot;.</translation>
+        <translation>הביטו במקשים שליד הצג. אם אין להם תאורה, בחרו &quot;דילוג&quot;.</translation>
     </message>
     <message id="kiv-keylight-note">
         <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>
@@ -2607,6 +2607,107 @@
         <source>Skip</source>
         <translation>דילוג</translation>
     </message>
+    <message id="kiv-camera-dark">
+        <source>The camera delivers no picture.</source>
+        <translation>המצלמה אינה מוסרת תמונה.</translation>
+    </message>
+    <message id="kiv-camera-instructions">
+        <source>Move the phone a little and watch the picture. Tap it to see it large.</source>
+        <translation>הזיזו מעט את הטלפון והביטו בתמונה. הקישו עליה כדי להגדיל אותה.</translation>
+    </message>
+    <message id="kiv-camera-working">
+        <source>Looking for the camera</source>
+        <translation>מחפש את המצלמה</translation>
+    </message>
+    <message id="kiv-camera-question">
+        <source>What does the picture do when you move the phone?</source>
+        <translation>מה קורה לתמונה כשמזיזים את הטלפון?</translation>
+    </message>
+    <message id="kiv-camera-live">
+        <source>It follows</source>
+        <translation>היא זזה איתו</translation>
+    </message>
+    <message id="kiv-camera-still">
+        <source>It stands still</source>
+        <translation>היא קפואה</translation>
+    </message>
+    <message id="kiv-camera-light">
+        <source>Does the light beside the camera burn?</source>
+        <translation>האם האור שליד המצלמה דולק?</translation>
+    </message>
+    <message id="kiv-camera-stains">
+        <source>Are there stains, stripes or wrong colours in the picture?</source>
+        <translation>האם יש בתמונה כתמים, פסים או צבעים שגויים?</translation>
+    </message>
+    <message id="kiv-camera-stains-bad">
+        <source>The picture has stains, stripes or wrong colours.</source>
+        <translation>יש בתמונה כתמים, פסים או צבעים שגויים.</translation>
+    </message>
+    <message id="kiv-camera-sharp">
+        <source>Is it sharp?</source>
+        <translation>האם היא חדה?</translation>
+    </message>
+    <message id="kiv-camera-sharp-bad">
+        <source>The picture is not sharp.</source>
+        <translation>התמונה אינה חדה.</translation>
+    </message>
+    <message id="kiv-camera-flash">
+        <source>The camera lets nobody switch its light. Take a picture with flash in the phone&apos;s own camera program: does it flash?</source>
+        <translation>המצלמה אינה מאפשרת להדליק את האור שלה. צלמו תמונה עם מבזק ביישום המצלמה של הטלפון: האם הוא מבזיק?</translation>
+    </message>
+    <message id="kiv-camera-flash-bad">
+        <source>The camera does not flash.</source>
+        <translation>המבזק אינו פועל.</translation>
+    </message>
+    <message id="kiv-camera-good">
+        <source>The operator saw a live picture without faults.</source>
+        <translation>המפעיל ראה תמונה חיה בלי פגמים.</translation>
+    </message>
+    <message id="kiv-camera-back-missing">
+        <source>No back camera was found.</source>
+        <translation>לא נמצאה מצלמה אחורית.</translation>
+    </message>
+    <message id="kiv-camera-front-missing">
+        <source>No front camera was found.</source>
+        <translation>לא נמצאה מצלמה קדמית.</translation>
+    </message>
+    <message id="kiv-video-stopped">
+        <source>The video stopped: %1</source>
+        <translation>הסרטון נעצר: ⁨%1⁩</translation>
+    </message>
+    <message id="kiv-video-missing">
+        <source>The system has no decoder for the test video (%1): install one, or test with a video of the phone&apos;s own.</source>
+        <extracomment>The names of the codecs that were tried</extracomment>
+        <translation>אין במערכת מפענח לסרטון הבדיקה (⁨%1⁩): התקינו אחד, או בדקו עם סרטון של הטלפון עצמו.</translation>
+    </message>
+    <message id="kiv-video-instructions">
+        <source>Watch the video and count the squares that cross the picture.</source>
+        <translation>צפו בסרטון וספרו את הריבועים שחוצים את התמונה.</translation>
+    </message>
+    <message id="kiv-video-question">
+        <source>How many squares crossed the picture?</source>
+        <translation>כמה ריבועים חצו את התמונה?</translation>
+    </message>
+    <message id="kiv-video-jerk">
+        <source>Did the picture jerk, tear or show blocks?</source>
+        <translation>האם התמונה קפצה, נקרעה או הראתה ריבועים פגומים?</translation>
+    </message>
+    <message id="kiv-video-jerk-bad">
+        <source>The video jerks, tears or shows blocks.</source>
+        <translation>הסרטון קופץ, נקרע או מראה ריבועים פגומים.</translation>
+    </message>
+    <message id="kiv-video-good">
+        <source>The operator saw the video run smoothly.</source>
+        <translation>המפעיל ראה את הסרטון רץ חלק.</translation>
+    </message>
+    <message id="kiv-video-format">
+        <source>Decoder</source>
+        <translation>מפענח</translation>
+    </message>
+    <message id="kiv-video-played">
+        <source>Played</source>
+        <translation>נוגן</translation>
+    </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
         <translation>הכתובת תקינה, והרדיו סיים לחפש.</translation>
@@ -2620,110 +2721,9 @@
         <extracomment>&quot;LTR&quot;, or &quot;RTL&quot; for a language that is written from right to left</extracomment>
         <translation>RTL</translation>
     </message>
-    <message id="kiv-camera-dark">
-        <source>The camera delivers no picture.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-instructions">
-        <source>Move the phone a little and watch the picture. Tap it to see it large.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-working">
-        <source>Looking for the camera</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-question">
-        <source>What does the picture do when you move the phone?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-live">
-        <source>It follows</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-still">
-        <source>It stands still</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-light">
-        <source>Does the light beside the camera burn?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-stains">
-        <source>Are there stains, stripes or wrong colours in the picture?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-stains-bad">
-        <source>The picture has stains, stripes or wrong colours.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-sharp">
-        <source>Is it sharp?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-sharp-bad">
-        <source>The picture is not sharp.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-flash">
-        <source>The camera lets nobody switch its light. Take a picture with flash in the phone&apos;s own camera program: does it flash?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-flash-bad">
-        <source>The camera does not flash.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-good">
-        <source>The operator saw a live picture without faults.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-back-missing">
-        <source>No back camera was found.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-front-missing">
-        <source>No front camera was found.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-stopped">
-        <source>The video stopped: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-missing">
-        <source>The system has no decoder for the test video (%1): install one, or test with a video of the phone&apos;s own.</source>
-        <extracomment>The names of the codecs that were tried</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-instructions">
-        <source>Watch the video and count the squares that cross the picture.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-question">
-        <source>How many squares crossed the picture?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-jerk">
-        <source>Did the picture jerk, tear or show blocks?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-jerk-bad">
-        <source>The video jerks, tears or shows blocks.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-good">
-        <source>The operator saw the video run smoothly.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-format">
-        <source>Decoder</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-played">
-        <source>Played</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message id="kiv-wifi-working">
         <source>Asking for the Wi-Fi radio</source>
-        <translation type="unfinished"></translation>
+        <translation>שואל על רכיב ה־Wi-Fi</translation>
     </message>
 </context>
 </TS>

@@ -2106,7 +2106,7 @@
     <message id="kiv-keylight-instructions">
         <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
         <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
-        <translation type="unfinished">看屏幕旁边的按键。如果按键没有背光，请选择“不适用”。</translation>
+        <translation>看屏幕旁边的按键。如果按键没有背光，请选择“跳过”。</translation>
     </message>
     <message id="kiv-keylight-note">
         <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>
@@ -2607,6 +2607,107 @@
         <source>Skip</source>
         <translation>跳过</translation>
     </message>
+    <message id="kiv-camera-dark">
+        <source>The camera delivers no picture.</source>
+        <translation>摄像头没有图像。</translation>
+    </message>
+    <message id="kiv-camera-instructions">
+        <source>Move the phone a little and watch the picture. Tap it to see it large.</source>
+        <translation>稍微移动手机并观察图像。点按图像可放大。</translation>
+    </message>
+    <message id="kiv-camera-working">
+        <source>Looking for the camera</source>
+        <translation>正在查找摄像头</translation>
+    </message>
+    <message id="kiv-camera-question">
+        <source>What does the picture do when you move the phone?</source>
+        <translation>移动手机时图像如何变化？</translation>
+    </message>
+    <message id="kiv-camera-live">
+        <source>It follows</source>
+        <translation>随之移动</translation>
+    </message>
+    <message id="kiv-camera-still">
+        <source>It stands still</source>
+        <translation>静止不动</translation>
+    </message>
+    <message id="kiv-camera-light">
+        <source>Does the light beside the camera burn?</source>
+        <translation>摄像头旁边的灯亮着吗？</translation>
+    </message>
+    <message id="kiv-camera-stains">
+        <source>Are there stains, stripes or wrong colours in the picture?</source>
+        <translation>图像中是否有斑块、条纹或颜色错误？</translation>
+    </message>
+    <message id="kiv-camera-stains-bad">
+        <source>The picture has stains, stripes or wrong colours.</source>
+        <translation>图像有斑块、条纹或颜色错误。</translation>
+    </message>
+    <message id="kiv-camera-sharp">
+        <source>Is it sharp?</source>
+        <translation>图像清晰吗？</translation>
+    </message>
+    <message id="kiv-camera-sharp-bad">
+        <source>The picture is not sharp.</source>
+        <translation>图像不清晰。</translation>
+    </message>
+    <message id="kiv-camera-flash">
+        <source>The camera lets nobody switch its light. Take a picture with flash in the phone&apos;s own camera program: does it flash?</source>
+        <translation>无法控制摄像头的灯。请用手机自带的相机程序开启闪光灯拍照：闪光灯闪光吗？</translation>
+    </message>
+    <message id="kiv-camera-flash-bad">
+        <source>The camera does not flash.</source>
+        <translation>闪光灯不闪光。</translation>
+    </message>
+    <message id="kiv-camera-good">
+        <source>The operator saw a live picture without faults.</source>
+        <translation>操作员看到实时图像，没有缺陷。</translation>
+    </message>
+    <message id="kiv-camera-back-missing">
+        <source>No back camera was found.</source>
+        <translation>未找到后置摄像头。</translation>
+    </message>
+    <message id="kiv-camera-front-missing">
+        <source>No front camera was found.</source>
+        <translation>未找到前置摄像头。</translation>
+    </message>
+    <message id="kiv-video-stopped">
+        <source>The video stopped: %1</source>
+        <translation>视频停止：%1</translation>
+    </message>
+    <message id="kiv-video-missing">
+        <source>The system has no decoder for the test video (%1): install one, or test with a video of the phone&apos;s own.</source>
+        <extracomment>The names of the codecs that were tried</extracomment>
+        <translation>系统没有测试视频的解码器（%1）：请安装，或用手机中的视频测试。</translation>
+    </message>
+    <message id="kiv-video-instructions">
+        <source>Watch the video and count the squares that cross the picture.</source>
+        <translation>观看视频，数一数有几个方块穿过画面。</translation>
+    </message>
+    <message id="kiv-video-question">
+        <source>How many squares crossed the picture?</source>
+        <translation>有几个方块穿过画面？</translation>
+    </message>
+    <message id="kiv-video-jerk">
+        <source>Did the picture jerk, tear or show blocks?</source>
+        <translation>画面是否卡顿、撕裂或出现马赛克？</translation>
+    </message>
+    <message id="kiv-video-jerk-bad">
+        <source>The video jerks, tears or shows blocks.</source>
+        <translation>视频卡顿、撕裂或出现马赛克。</translation>
+    </message>
+    <message id="kiv-video-good">
+        <source>The operator saw the video run smoothly.</source>
+        <translation>操作员看到视频播放流畅。</translation>
+    </message>
+    <message id="kiv-video-format">
+        <source>Decoder</source>
+        <translation>解码器</translation>
+    </message>
+    <message id="kiv-video-played">
+        <source>Played</source>
+        <translation>已播放</translation>
+    </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
         <translation>地址正常，且蓝牙已搜索。</translation>
@@ -2620,110 +2721,9 @@
         <extracomment>&quot;LTR&quot;, or &quot;RTL&quot; for a language that is written from right to left</extracomment>
         <translation>LTR</translation>
     </message>
-    <message id="kiv-camera-dark">
-        <source>The camera delivers no picture.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-instructions">
-        <source>Move the phone a little and watch the picture. Tap it to see it large.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-working">
-        <source>Looking for the camera</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-question">
-        <source>What does the picture do when you move the phone?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-live">
-        <source>It follows</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-still">
-        <source>It stands still</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-light">
-        <source>Does the light beside the camera burn?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-stains">
-        <source>Are there stains, stripes or wrong colours in the picture?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-stains-bad">
-        <source>The picture has stains, stripes or wrong colours.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-sharp">
-        <source>Is it sharp?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-sharp-bad">
-        <source>The picture is not sharp.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-flash">
-        <source>The camera lets nobody switch its light. Take a picture with flash in the phone&apos;s own camera program: does it flash?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-flash-bad">
-        <source>The camera does not flash.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-good">
-        <source>The operator saw a live picture without faults.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-back-missing">
-        <source>No back camera was found.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-camera-front-missing">
-        <source>No front camera was found.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-stopped">
-        <source>The video stopped: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-missing">
-        <source>The system has no decoder for the test video (%1): install one, or test with a video of the phone&apos;s own.</source>
-        <extracomment>The names of the codecs that were tried</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-instructions">
-        <source>Watch the video and count the squares that cross the picture.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-question">
-        <source>How many squares crossed the picture?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-jerk">
-        <source>Did the picture jerk, tear or show blocks?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-jerk-bad">
-        <source>The video jerks, tears or shows blocks.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-good">
-        <source>The operator saw the video run smoothly.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-format">
-        <source>Decoder</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message id="kiv-video-played">
-        <source>Played</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message id="kiv-wifi-working">
         <source>Asking for the Wi-Fi radio</source>
-        <translation type="unfinished"></translation>
+        <translation>正在查询 Wi-Fi 模块</translation>
     </message>
 </context>
 </TS>

@@ -190,6 +190,7 @@ void tst_Screens::look(const QString &page, bool hardware, QQuickView *view)
     QVERIFY(QMetaObject::invokeMethod(root, "begin"));
     QTRY_VERIFY2(screen() && screen() != before, qPrintable(page));
     if (!Screens.contains(page)) {
+        QVERIFY2(!screen()->property("broken").toBool(), qPrintable(page));
         const auto isOpen = [screen] {
             const auto current = screen()->property("page").value<QObject *>();
             return current && current->property("isOpen").toBool();
