@@ -13,6 +13,8 @@ Rectangle {
     /*! Whole pixels, so that all modules are of one size. */
     readonly property int pixels: Math.max(1, Math.floor(Math.min(width, height) / modules))
 
+    onRowsChanged: canvas.requestPaint()
+
     implicitWidth: 40 * Theme.unit
     implicitHeight: implicitWidth
     color: "#ffffff"
@@ -21,9 +23,12 @@ Rectangle {
     Accessible.name: text
 
     Canvas {
+        id: canvas
         anchors.centerIn: parent
         width: image.rows.length * image.pixels
         height: width
+        // It does not paint by itself what it was given while nobody saw it.
+        onVisibleChanged: requestPaint()
         onPaint: {
             var context = getContext("2d");
             context.fillStyle = "#ffffff";
