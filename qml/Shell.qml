@@ -281,11 +281,17 @@ Item {
         flow: flow
     }
 
-    // A receiver takes minutes to find satellites: it starts with the sequence.
+    // A receiver takes minutes to find satellites: it begins with the sequence.
     Loader {
         objectName: "satellites"
-        active: !shell.single && flow.isAhead("VerificationGpsRadio")
+        active: !shell.single && flow.anyEarly(flow.ahead, "Satellites")
         source: "flow/Satellites.qml"
+    }
+    // What cameras and videos need is slow to load: it comes behind the screen that covers the choice of a sequence.
+    Loader {
+        objectName: "pictures"
+        active: flow.mode !== TestTable.AllTests && flow.anyEarly(flow.ready, "Pictures")
+        source: "flow/Pictures.qml"
     }
     Loader {
         id: cues

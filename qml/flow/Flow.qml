@@ -59,9 +59,12 @@ QtObject {
             ++position;
     }
 
-    /*! Whether a test is still to come in this run. */
-    function isAhead(name) {
-        return run.some(function(row, place) { return place >= flow.position && row.name === name; });
+    /*! The rows that are still to come in this run, the present one included. */
+    readonly property var ahead: run.slice(position)
+
+    /*! Whether one of the rows has something slow that begins early, see TestTable. */
+    function anyEarly(rows, name) {
+        return rows.some(function(row) { return row.early === name; });
     }
 
     /*!

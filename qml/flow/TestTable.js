@@ -8,6 +8,7 @@
 //   seconds: how long a practised operator takes
 //   timeout: seconds after which the operator is asked how to go on
 //   alone:   runs without an operator, so that the run-in can repeat it
+//   early:   what is slow to begin with and therefore begins with the sequence, a file of this folder
 //   runIn:   place in the run-in sequence where that differs from this order
 var rows = [
     //% "Touch panel self-test"
@@ -69,10 +70,10 @@ var rows = [
       glyph: "headset", kind: "guided", seconds: 20, timeout: 80 },
     //% "Front camera"
     { name: "VerificationFrontCamera", title: QT_TRID_NOOP("kiv-test-front-camera"), needs: ["FrontCamera"], page: "VerificationFrontCamera.qml",
-      glyph: "camera", kind: "guided", seconds: 20, timeout: 80, alone: true },
+      glyph: "camera", kind: "guided", seconds: 20, timeout: 80, early: "Pictures", alone: true },
     //% "Back camera"
     { name: "VerificationBackCamera", title: QT_TRID_NOOP("kiv-test-back-camera"), needs: ["BackCamera"], page: "VerificationBackCamera.qml",
-      glyph: "camera", kind: "guided", seconds: 20, timeout: 80, alone: true, runIn: 2 },
+      glyph: "camera", kind: "guided", seconds: 20, timeout: 80, early: "Pictures", alone: true, runIn: 2 },
     //% "Wi-Fi"
     { name: "VerificationWifi", title: QT_TRID_NOOP("kiv-test-wifi"), needs: ["Wifi"], page: "VerificationWifi.qml",
       glyph: "radio", kind: "measured", seconds: 20, timeout: 80, alone: true },
@@ -84,7 +85,7 @@ var rows = [
       glyph: "cover", kind: "measured", seconds: 30, timeout: 120 },
     //% "Satellite positioning"
     { name: "VerificationGpsRadio", title: QT_TRID_NOOP("kiv-test-gps"), needs: ["GPS"], page: "VerificationGpsRadio.qml",
-      glyph: "gps", kind: "measured", seconds: 90, timeout: 360 },
+      glyph: "gps", kind: "measured", seconds: 90, timeout: 360, early: "Satellites" },
     //% "FM radio"
     { name: "VerificationFmRadio", title: QT_TRID_NOOP("kiv-test-fm-radio"), needs: ["FmRadio"], page: "VerificationFmRadio.qml",
       glyph: "fm", kind: "guided", seconds: 30, timeout: 120 },
@@ -117,7 +118,7 @@ var rows = [
       glyph: "usb", kind: "measured", seconds: 30, timeout: 120 },
     //% "Video playback"
     { name: "VerificationVideoPlayback", title: QT_TRID_NOOP("kiv-test-video"), needs: ["VideoPlayback"], page: "VerificationVideoPlayback.qml",
-      glyph: "video", kind: "guided", seconds: 30, timeout: 120, alone: true, runIn: 5 },
+      glyph: "video", kind: "guided", seconds: 30, timeout: 120, early: "Pictures", alone: true, runIn: 5 },
     //% "Battery resistance"
     { name: "VerificationBatteryResistance", title: QT_TRID_NOOP("kiv-test-battery-resistance"), needs: ["Battery"], page: "VerificationBatteryResistance.qml",
       glyph: "battery", kind: "measured", seconds: 60, timeout: 240 },

@@ -35,7 +35,7 @@ class Charger:
         now = self.inputs()
         if now == self.seen:
             return
-        self.seen = now
+        before, self.seen = self.seen, now
         battery, present, full, online, disabled = now
         if battery is None or present == '0':
             return
@@ -46,7 +46,9 @@ class Charger:
         else:
             status, current = 'Charging', CHARGING_MICROAMPERES
         # Whoever waits for the status finds the current that goes with it, and the voltage that goes with that.
-        self.follow(battery, current)
+        # Whoever sets the level has set the voltage that is read at it.
+        if now[3:] != before[3:]:
+            self.follow(battery, current)
         self.phone.write_if_there(battery + '/current_now', str(current))
         self.phone.write_if_there(battery + '/status', status)
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "mediaregistry.h"
 #include "pagecache.h"
 #include "registration.h"
 #include "signalhandler.h"
@@ -90,6 +91,7 @@ extern "C" Q_DECL_EXPORT int kivApplicationMain(int argc, char **argv)
 
     // For the camera pipelines that pages create from now on.
     qputenv("QT_GSTREAMER_CAMERABIN_SRC", "droidcamsrc");
+    keepMediaRegistryUnwritten();
 
     return QGuiApplication::exec();
 }

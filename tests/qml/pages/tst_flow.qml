@@ -201,6 +201,15 @@ Driver {
         verify(!find("satellites").item);
     }
 
+    function test_whatCamerasNeedIsLoadedWithTheSequence() {
+        toSequence(TestTable.FactoryTests, ["VerificationHallDetect", "VerificationBackCamera"]);
+        verify(find("pictures").item);
+        compare(Phone.log, [], "no camera is opened");
+        shell.showHome();
+        toSequence(TestTable.FactoryTests, ["VerificationHallDetect"]);
+        verify(!find("pictures").item);
+    }
+
     function test_noReceiverWhereNothingAsksForIt() {
         startSequence(["VerificationHallDetect", "VerificationBattery"]);
         verify(!find("satellites").item);
