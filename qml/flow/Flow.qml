@@ -25,6 +25,12 @@ QtObject {
     /*! Name to verdict, see record(). Replaced as a whole, so that bindings follow. */
     property var results: ({})
 
+    /*!
+     * How the run-in of this sequence ended, null where there was none: {why, code, text}. Its code is the best that the
+     * sequence can have, whatever its tests have: an end before its time is no pass.
+     */
+    property var ending: null
+
     /*! A verdict was kept. */
     signal recorded(string name, var verdict)
 
@@ -38,6 +44,7 @@ QtObject {
     /*! Verdicts stay: they are the unit's, whatever sequence they came from. */
     function choose(newMode, features) {
         mode = newMode;
+        ending = null;
         entries = TestTable.plan(newMode, features);
         run = [];
         position = 0;
@@ -45,6 +52,7 @@ QtObject {
 
     function clear() {
         results = {};
+        ending = null;
         run = [];
         position = 0;
     }
@@ -133,11 +141,12 @@ QtObject {
         return entry.state === "absent" ? FactoryUtils.NA : code(entry.row.name);
     }
 
-    /*! Failed if a test failed; passed only if none failed, none is left and one passed at all. */
+    /*! Failed if a test or the run-in failed; passed only if none failed, none is left and one passed at all. */
     function overallCode() {
-        return count(FactoryUtils.Fail) > 0 ? FactoryUtils.Fail
-               : count(FactoryUtils.Untest) > 0 || count(FactoryUtils.Pass) === 0 ? FactoryUtils.Untest
-               : FactoryUtils.Pass;
+        var best = ending ? ending.code : FactoryUtils.Pass;
+        return count(FactoryUtils.Fail) > 0 || best === FactoryUtils.Fail ? FactoryUtils.Fail
+               : count(FactoryUtils.Untest) > 0 || count(FactoryUtils.Pass) === 0 || best === FactoryUtils.Untest
+               ? FactoryUtils.Untest : FactoryUtils.Pass;
     }
 
     /*! The sum of a number, "attempts" or "spent", over the tests of the sequence. */

@@ -42,6 +42,7 @@ function run(flow, identity, time) {
     var counts = {};
     ["00", "01", "02", "03"].forEach(function(code) { counts[code] = flow.count(code); });
     return line({ kiv: version, event: "run", time: time, mode: modeWord(flow.mode), code: flow.overallCode(),
+                  end: flow.ending ? flow.ending.why : null,
                   wlan: identity.wlan || null, bluetooth: identity.bluetooth || null, calibrated: identity.calibrated,
                   counts: counts, attempts: flow.total("attempts"), seconds: flow.total("spent"), results: results });
 }

@@ -117,6 +117,11 @@ Item {
     }
 
     function summarize() {
+        // A test that failed says so itself; when it is mended, the run-in still has to be done.
+        flow.ending = { "why": runIn.end, "text": endWord(),
+                        "code": runIn.end === "time" ? FactoryUtils.Pass
+                                : runIn.end === "temperature" || runIn.end === "restart" ? FactoryUtils.Fail
+                                : FactoryUtils.Untest };
         for (var name in runIn.outcomes) {
             var outcome = runIn.outcomes[name];
             flow.adopt(name, { "code": outcome.code, "decided": "", "overruled": false, "reason": outcome.reason,
@@ -373,6 +378,7 @@ Item {
                 if (runIn.running) {
                     runIn.stop("operator");
                 } else {
+                    screen.flow.ending = null;
                     runIn.temperatureLimit = limitButton.limits[limitButton.choice];
                     runIn.start();
                 }

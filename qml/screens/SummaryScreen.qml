@@ -13,6 +13,9 @@ Item {
     readonly property var flow: shell ? shell.flow : null
     readonly property string code: flow ? flow.overallCode() : FactoryUtils.Untest
     readonly property var look: Style.looks[code]
+    /*! Why a run-in ended before its time. */
+    readonly property string endText: flow && flow.ending && flow.ending.code !== FactoryUtils.Pass
+                                      ? flow.ending.text + "\n" : ""
     readonly property var order: [FactoryUtils.Fail, FactoryUtils.Untest, FactoryUtils.NA, FactoryUtils.Pass]
     readonly property var sorted: {
         var all = [];
@@ -144,13 +147,13 @@ Item {
         horizontalAlignment: Text.AlignHCenter
         color: Theme.muted
         font.pixelSize: Theme.small
-        visible: screen.flow !== null && screen.flow.total("attempts") > 0
+        visible: screen.flow !== null && (screen.endText !== "" || screen.flow.total("attempts") > 0)
         height: visible ? implicitHeight + Theme.gap : 0
         text: screen.flow
               //: Totals of a sequence: how many attempts, how long
               //% "Attempts: %1, time: %2"
-              ? qsTrId("kiv-summary-totals").arg(screen.flow.total("attempts"))
-                                            .arg(screen.duration(screen.flow.total("spent"))) : ""
+              ? screen.endText + qsTrId("kiv-summary-totals").arg(screen.flow.total("attempts"))
+                                                             .arg(screen.duration(screen.flow.total("spent"))) : ""
     }
     ListView {
         id: list

@@ -100,12 +100,13 @@ def running():
     return [name for _, name in sorted(found, reverse=True)]
 
 
-def request(path, words):
+def request(path, words, timeout=None):
     """What the phone behind the socket answers: (status, output, error)."""
     connection = connect(path)
     if not connection:
         raise NoPhone('no phone answers at %s' % path)
     with connection:
+        connection.settimeout(timeout)
         connection.sendall(json.dumps(words).encode() + b'\n')
         answer = b''
         while not answer.endswith(b'\n'):

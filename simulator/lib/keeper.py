@@ -7,6 +7,7 @@ import signal
 import socket
 import subprocess
 import sys
+import traceback
 
 sys.dont_write_bytecode = True
 
@@ -50,7 +51,11 @@ class Connection:
                 raise ValueError
         except ValueError:
             return
-        status, output, error = self.answer(words)
+        try:
+            status, output, error = self.answer(words)
+        except Exception as problem:  # the simulator's own fault; nobody shall wait for an answer
+            traceback.print_exc()
+            status, output, error = 1, '', repr(problem)
         self.connection.settimeout(2)
         try:
             self.connection.sendall(json.dumps({'status': status, 'output': output, 'error': error}).encode() + b'\n')

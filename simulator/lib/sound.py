@@ -17,7 +17,9 @@ sound.ini has a section for each sink and source:
 The first port is active at first, the first sink and source are the server's defaults.
 """
 
+import array
 import os
+import select
 import shutil
 import signal
 import subprocess
@@ -30,6 +32,13 @@ from phonefolder import SIMULATOR, BadPhone, read_ini
 FOLDER = '/run/kiv-phone/sound'
 PORTS = FOLDER + '/ports'
 START_TIMEOUT_S = 20
+RATE = 48000
+FRAME = 4
+# What an ear takes in: the first part is what was on its way before.
+LISTEN_SKIP_S = 0.1
+LISTEN_S = 0.3
+LISTEN_TIMEOUT_S = 5
+AUDIBLE = 500
 
 
 class Sound:
@@ -180,3 +189,33 @@ class Sound:
 
     def active(self, name):
         return self.phone.read('%s/%s.active' % (PORTS, name))
+
+    def listen(self):
+        """What comes out of the default output: the peaks of its left and its right side."""
+        if not self.running():
+            raise Failure('the sound server is not running')
+        output = next((name for name, settings in self.objects.items() if settings.get('kind') == 'sink'), None)
+        if output is None:
+            raise Failure('this phone has no output')
+        recorder = self.popen(['parec', '--device=%s.monitor' % output, '--raw', '--format=s16le', '--channels=2',
+                               '--rate=%d' % RATE, '--latency-msec=20'], subprocess.PIPE)
+        heard = bytearray()
+        end = time.monotonic() + LISTEN_TIMEOUT_S
+        skip = FRAME * int(RATE * LISTEN_SKIP_S)
+        wanted = skip + FRAME * int(RATE * LISTEN_S)
+        try:
+            while len(heard) < wanted:
+                if not select.select([recorder.stdout], [], [], max(0, end - time.monotonic()))[0]:
+                    raise Failure('the output delivers nothing')
+                part = os.read(recorder.stdout.fileno(), 65536)
+                if not part:
+                    raise Failure('the output cannot be listened to')
+                heard += part
+        finally:
+            recorder.kill()
+            recorder.wait()
+            recorder.stdout.close()
+        samples = array.array('h', bytes(heard[skip:wanted]))
+        if sys.byteorder == 'big':
+            samples.byteswap()
+        return [max(abs(sample) for sample in samples[side::2]) for side in (0, 1)]

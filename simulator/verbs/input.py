@@ -67,12 +67,25 @@ def lid(phone):
     return device
 
 
+# The nodes of hall switches that feel no magnet any more.
+stuck_lids = set()
+
+
 def show_lid(phone):
-    return 'closed' if lid(phone).is_on(LID) else 'open'
+    device = lid(phone)
+    return ('closed' if device.is_on(LID) else 'open') + (', stuck' if device.node in stuck_lids else '')
 
 
 def move_lid(phone, closed):
-    lid(phone).send([(LID, closed)])
+    device = lid(phone)
+    if device.node not in stuck_lids:
+        device.send([(LID, closed)])
+
+
+def stick_lid(phone, state='on'):
+    if state not in ('on', 'off'):
+        raise Failure('say on or off')
+    (stuck_lids.add if state == 'on' else stuck_lids.discard)(lid(phone).node)
 
 
 # Keys
@@ -197,6 +210,7 @@ COMMANDS = [
     Command('hall', '', 'show the hall switch', show_lid),
     Command('hall close', '', 'close the cover', lambda phone: move_lid(phone, 1)),
     Command('hall open', '', 'open it', lambda phone: move_lid(phone, 0)),
+    Command('hall stuck', '[on|off]', 'the switch does not feel the cover', stick_lid),
     Command('key', '', 'show the keys, those of the headset too', show_keys),
     Command('key press', 'NAME', 'press a key: volumeup, media, BTN_1', press),
     Command('key release', 'NAME', 'release it', release),
