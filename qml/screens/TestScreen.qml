@@ -249,6 +249,7 @@ Item {
         visible: header.visible && screen.progressText !== ""
 
         Rectangle {
+            anchors.left: parent.left
             width: parent.width * (screen.flow ? screen.flow.position / Math.max(1, screen.flow.run.length) : 0)
             height: parent.height
             color: Theme.accent
