@@ -312,6 +312,28 @@ class Phone:
             path = os.path.join(PICTURES, '%s-%02d-%s.png' % (self.identifier, self.picture_count, name))
         self.display.screenshot(path)
 
+    def count_spots(self):
+        """How many spots of one colour are on the screen, on ground of another."""
+        path = os.path.join(self.folder, 'spots.png')
+        self.display.screenshot(path)
+        width, height = SIZE[0] // 2, SIZE[1] // 2
+        pixels = subprocess.run(['convert', path, '-filter', 'box', '-resize', '%dx%d!' % (width, height), '-depth', '8',
+                                 'rgb:-'], capture_output=True, check=True).stdout
+        colours = [pixels[at:at + 3] for at in range(0, len(pixels), 3)]
+        ground = max(set(colours), key=colours.count)
+        spots = {at for at, colour in enumerate(colours) if sum(abs(a - b) for a, b in zip(colour, ground)) > 250}
+        count = 0
+        while spots:
+            count += 1
+            edge = [spots.pop()]
+            while edge:
+                at = edge.pop()
+                for neighbour in at - 1, at + 1, at - width, at + width:
+                    if neighbour in spots:
+                        spots.remove(neighbour)
+                        edge.append(neighbour)
+        return count
+
     def scan(self):
         """What a scanner reads from the QR code on the screen."""
         path = os.path.join(self.folder, 'code.png')

@@ -257,6 +257,29 @@ Driver {
         verify(!find("codeSheet").visible);
     }
 
+    function test_runInThatEndedEarly_data() {
+        return [
+            { tag: "time", ending: FactoryUtils.Pass, code: FactoryUtils.Pass },
+            { tag: "operator", ending: FactoryUtils.Untest, code: FactoryUtils.Untest },
+            { tag: "temperature", ending: FactoryUtils.Fail, code: FactoryUtils.Fail }
+        ];
+    }
+
+    function test_runInThatEndedEarly(data) {
+        toSequence(TestTable.RunInTests, ["MacAddresses"]);
+        shell.flow.adopt("MacAddresses", { code: FactoryUtils.Pass, attempts: 3, spent: 3 });
+        compare(shell.flow.overallCode(), FactoryUtils.Pass);
+        shell.flow.ending = { why: data.tag, code: data.ending, text: "Over." };
+        compare(shell.flow.overallCode(), data.code);
+        var run = JSON.parse(Report.run(shell.flow, { wlan: "", bluetooth: "", calibrated: false }, ""));
+        compare(run.code, data.code);
+        compare(run.end, data.tag);
+        verify(Report.codeText(shell.flow, { wlan: "", bluetooth: "", calibrated: false })
+               .indexOf("RESULT " + data.code) > 0);
+        shell.flow.clear();
+        compare(shell.flow.ending, null);
+    }
+
     function test_qrSizes_data() {
         // Lengths in bytes at which a code of level M grows; the modules of a side.
         return [
