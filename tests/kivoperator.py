@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: BSD-3-Clause
-"""An operator at a simulated phone: fingers on its touch panel and its other parts in his hands by way of phonectl, eyes on
-its screen. The installed program runs unchanged; its first page also says what is to be seen where."""
+"""An operator at a simulated phone: fingers on its touch panel and its other parts in his hands by way of phonectl, eyes
+on its screen. The installed program runs unchanged; its first page also says what is to be seen where."""
 
 import itertools
 import json
@@ -317,8 +317,8 @@ class Phone:
         path = os.path.join(self.folder, 'spots.png')
         self.display.screenshot(path)
         width, height = SIZE[0] // 2, SIZE[1] // 2
-        pixels = subprocess.run(['convert', path, '-filter', 'box', '-resize', '%dx%d!' % (width, height), '-depth', '8',
-                                 'rgb:-'], capture_output=True, check=True).stdout
+        pixels = subprocess.run(['convert', path, '-filter', 'box', '-resize', '%dx%d!' % (width, height), '-depth',
+                                 '8', 'rgb:-'], capture_output=True, check=True).stdout
         colours = [pixels[at:at + 3] for at in range(0, len(pixels), 3)]
         ground = max(set(colours), key=colours.count)
         spots = {at for at, colour in enumerate(colours) if sum(abs(a - b) for a, b in zip(colour, ground)) > 250}
