@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: BSD-3-Clause
-"""An operator at a simulated phone: fingers on its touch panel and its other parts in his hands by way of phonectl, eyes
-on its screen. The installed program runs unchanged; its first page also says what is to be seen where."""
+"""An operator at a simulated phone: fingers on its touch panel and its other parts in his hands by way of phonectl,
+eyes on its screen. The installed program runs unchanged; its first page also says what is to be seen where."""
 
 import itertools
 import json
