@@ -197,6 +197,9 @@ int main(int argc, char **argv)
         wait(1500);
         return memory(view.engine());
     };
+    // A sequence begins with its list: what its pages need is loaded behind it.
+    shell.show(QStringLiteral("list"));
+    wait(2000);
     QVector<Cost> opening;
     double first = 0;
     for (int i = 0; i < names.size(); ++i) {

@@ -283,13 +283,13 @@ Item {
 
     // A receiver takes minutes to find satellites: it begins with the sequence.
     Loader {
-        objectName: "satellites"
+        objectName: "earlySatellites"
         active: !shell.single && flow.anyEarly(flow.ahead, "Satellites")
         source: "flow/Satellites.qml"
     }
     // What cameras and videos need is slow to load: it comes behind the screen that covers the choice of a sequence.
     Loader {
-        objectName: "pictures"
+        objectName: "earlyPictures"
         active: flow.mode !== TestTable.AllTests && flow.anyEarly(flow.ready, "Pictures")
         source: "flow/Pictures.qml"
     }

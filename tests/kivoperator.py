@@ -33,7 +33,7 @@ DONE = 'shell-done: '
 STILL = 0.2
 SERIAL = itertools.count()
 
-PASSED, FAILED, NOT_APPLICABLE = '01', '02', '03'
+PASSED, FAILED = '01', '02'
 
 # The whole interface, and what an operator sees of it: where buttons are, what he is asked, how the page stands. He
 # knows the answers from the hardware; where the simulated phone has none, from here.

@@ -105,7 +105,8 @@ Shell {
                           evidence: !!page && page.evidence, asked: shell.asked(page), stall: shell.stall,
                           passable: !!page && shell.screen.passUnlocked === true,
                           values: page ? page.measurements.map(function(m) { return m.valueText }) : [] }
-            var more = ["prepared", "played", "playing", "found", "heard", "trouble", "refused"]
+            var more = ["prepared", "played", "playing", "found", "heard", "trouble", "refused",
+                        "hasRested"]
             more.forEach(function(name) {
                 if (page && page[name] !== undefined)
                     state[name] = page[name]

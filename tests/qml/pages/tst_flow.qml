@@ -191,28 +191,28 @@ Driver {
 
     function test_theSatelliteReceiverStartsWithTheSequence() {
         startSequence(["VerificationHallDetect", "VerificationGpsRadio", "VerificationBattery"]);
-        verify(find("satellites").item, "long before its page");
+        verify(find("earlySatellites").item, "long before its page");
         tap("fail");
         compare(frame.row.name, "VerificationGpsRadio");
-        verify(find("satellites").item);
+        verify(find("earlySatellites").item);
         afterFlash();
         tap("fail");
         compare(frame.row.name, "VerificationBattery");
-        verify(!find("satellites").item);
+        verify(!find("earlySatellites").item);
     }
 
     function test_whatCamerasNeedIsLoadedWithTheSequence() {
         toSequence(TestTable.FactoryTests, ["VerificationHallDetect", "VerificationBackCamera"]);
-        verify(find("pictures").item);
+        verify(find("earlyPictures").item);
         compare(Phone.log, [], "no camera is opened");
         shell.showHome();
         toSequence(TestTable.FactoryTests, ["VerificationHallDetect"]);
-        verify(!find("pictures").item);
+        verify(!find("earlyPictures").item);
     }
 
     function test_noReceiverWhereNothingAsksForIt() {
         startSequence(["VerificationHallDetect", "VerificationBattery"]);
-        verify(!find("satellites").item);
+        verify(!find("earlySatellites").item);
     }
 
     function test_linesForTheStation() {
