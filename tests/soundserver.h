@@ -114,7 +114,8 @@ public:
     }
 
 private:
-    /*! Twice as fast as real microphones: nobody has to wait, and no recording becomes much longer than is asked for. */
+    /*! Twice as fast as real microphones: nobody has to wait, and no recording becomes much longer than is asked for.
+     */
     void speak()
     {
         const int fd = ::open("/run/kiv-test/mics", O_WRONLY | O_NONBLOCK | O_CLOEXEC);

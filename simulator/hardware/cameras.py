@@ -59,7 +59,8 @@ class Cameras:
         lines = []
         for name in NAMES:
             state = self.phone.read(os.path.join(FOLDER, name))
-            light = self.phone.read(os.path.join(FOLDER, 'light-' + name))
+            # Nobody has switched the back one's light as long as there is no word of it; the front one has none.
+            light = self.phone.read(os.path.join(FOLDER, 'light-' + name)) or (name == 'back' and state and 'off')
             lines.append('%-6s %s%s' % (name, state or 'removed', ', light %s' % light if light else ''))
         return '\n'.join(lines)
 
