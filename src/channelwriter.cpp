@@ -17,11 +17,11 @@ void doubleSamples16(const char *sample, char *out, qint64 frames)
     }
 }
 
-void doubleSamples(const char *sample, char *out, qint64 frames, int sampleSize)
+void doubleSamples(const char *sample, char *out, qint64 frames, qint64 sampleSize)
 {
     for (qint64 frame = 0; frame < frames; ++frame) {
-        std::memcpy(out, sample, sampleSize);
-        std::memcpy(out + sampleSize, sample, sampleSize);
+        std::memcpy(out, sample, size_t(sampleSize));
+        std::memcpy(out + sampleSize, sample, size_t(sampleSize));
         sample += 2 * sampleSize;
         out += 2 * sampleSize;
     }
@@ -49,8 +49,8 @@ qint64 ChannelWriter::writeData(const char *data, qint64 len)
 
 QByteArray ChannelWriter::keptChannel(const char *data, qint64 len) const
 {
-    const qint64 frameSize = 2 * m_sampleSize;
-    const qint64 offset = m_channel * m_sampleSize;
+    const qint64 frameSize = 2 * qint64(m_sampleSize);
+    const qint64 offset = m_channel * qint64(m_sampleSize);
     const qint64 frames = len / frameSize;
     const qint64 wholeSize = frames * frameSize;
 

@@ -41,12 +41,12 @@ QString PaCmd::primarySinkActivePort() const
     return runCommand(PrimarySinkActivePortCommand, false);
 }
 
-QString PaCmd::sourceName(QString sourceType) const
+QString PaCmd::sourceName(const QString &sourceType) const
 {
     return runCommand(SourceCommandStart + sourceType + SourceNameCommandEnd, false);
 }
 
-QString PaCmd::sourceActivePort(QString sourceType) const
+QString PaCmd::sourceActivePort(const QString &sourceType) const
 {
     return runCommand(SourceCommandStart + sourceType + SourceActivePortCommandEnd, false);
 }
@@ -77,32 +77,32 @@ bool PaCmd::sourceIsCombined() const
     return builtin == externalSourceName();
 }
 
-void PaCmd::setSinkPort(QString sink, QString port)
+void PaCmd::setSinkPort(const QString &sink, const QString &port)
 {
     runCommand(SetSinkPortCommand + sink + QLatin1Char(' ') + port, true);
 }
 
-void PaCmd::setPrimarySinkPort(QString port)
+void PaCmd::setPrimarySinkPort(const QString &port)
 {
     setSinkPort(primarySinkName(), port);
 }
 
-void PaCmd::setPrimarySinkProperty(QString value)
+void PaCmd::setPrimarySinkProperty(const QString &value)
 {
     runCommand(SetSinkPropertyCommand + primarySinkName() + QLatin1Char(' ') + value, true);
 }
 
-void PaCmd::setSourcePort(QString source, QString port)
+void PaCmd::setSourcePort(const QString &source, const QString &port)
 {
     runCommand(SetSourcePortCommand + source + QLatin1Char(' ') + port, true);
 }
 
-void PaCmd::setBuiltinSourcePort(QString port)
+void PaCmd::setBuiltinSourcePort(const QString &port)
 {
     setSourcePort(builtinSourceName(), port);
 }
 
-void PaCmd::setExternalSourcePort(QString port)
+void PaCmd::setExternalSourcePort(const QString &port)
 {
     setSourcePort(externalSourceName(), port);
 }

@@ -26,8 +26,8 @@ public Q_SLOTS:
     QString primarySinkActivePort() const;
     /*! Name of the source that has the property given by its type: "droid.input.builtin" for the phone's own
      *  microphones, "droid.input.external" for a headset's. Source: pactl list sources. */
-    QString sourceName(QString sourceType) const;
-    QString sourceActivePort(QString sourceType) const;
+    QString sourceName(const QString &sourceType) const;
+    QString sourceActivePort(const QString &sourceType) const;
     QString builtinSourceName() const;
     QString externalSourceName() const;
     QString builtinSourceActivePort() const;
@@ -36,14 +36,14 @@ public Q_SLOTS:
     bool sourceIsCombined() const;
 
     /*! Command: pactl set-sink-port. Neither name is quoted, so both must be single words. */
-    void setSinkPort(QString sink, QString port);
-    void setPrimarySinkPort(QString port);
+    void setSinkPort(const QString &sink, const QString &port);
+    void setPrimarySinkPort(const QString &port);
     /*! Sets one "key=value" on the primary sink. Command: pacmd update-sink-proplist. */
-    void setPrimarySinkProperty(QString value);
+    void setPrimarySinkProperty(const QString &value);
     /*! Command: pactl set-source-port. Neither name is quoted, so both must be single words. */
-    void setSourcePort(QString source, QString port);
-    void setBuiltinSourcePort(QString port);
-    void setExternalSourcePort(QString port);
+    void setSourcePort(const QString &source, const QString &port);
+    void setBuiltinSourcePort(const QString &port);
+    void setExternalSourcePort(const QString &port);
 
 private:
     static QString runCommand(const QString &command, bool log);

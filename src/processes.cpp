@@ -64,8 +64,9 @@ UniqueFd openIn(DIR *directory, const char *path)
 
 UniqueFd openOfProcess(DIR *proc, int pid, const char *name)
 {
-    char path[32];
-    std::strcpy(std::to_chars(path, std::end(path), pid).ptr, name);
+    char path[32] = {};
+    char *const end = std::to_chars(path, std::end(path), pid).ptr;
+    std::strncpy(end, name, size_t(std::end(path) - end) - 1);
     return openIn(proc, path);
 }
 

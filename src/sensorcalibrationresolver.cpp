@@ -10,7 +10,7 @@
 namespace
 {
 const QString HelperPath = QStringLiteral("/usr/lib/sensor-calibration/calibrate_%1");
-constexpr QLatin1String KnownSensors[] = {
+const QLatin1String KnownSensors[] = {
     QLatin1String("accelerometer"), QLatin1String("als"),         QLatin1String("compass"),
     QLatin1String("gyroscope"),     QLatin1String("humidity"),    QLatin1String("lid"),
     QLatin1String("magnetometer"),  QLatin1String("orientation"), QLatin1String("pressure"),
