@@ -67,7 +67,7 @@ Shell {
             seen.ask = { question: question.name, answer: question.good !== false ? "yes" : "no" }
         } else if (item.expected !== undefined && item.rounds !== undefined) {
             seen.ask = { question: item.question, answer: "answer-" + item.expected, ready: item.ready,
-                         mistakes: item.mistakes.length }
+                         round: item.round, mistakes: item.mistakes.length }
         } else if (item.sides !== undefined && item.beeped !== undefined) {
             seen.ask = { question: "side", round: item.round, ready: item.beeped }
         } else if (item.objectName === "qr") {

@@ -30,6 +30,8 @@ Column {
     /*! What the hardware shows now; undefined before the start and after the end. */
     readonly property alias expected: state.expected
     readonly property bool running: expected !== undefined
+    /*! How many rounds have been answered. */
+    readonly property alias round: state.round
     readonly property alias solved: state.solved
     readonly property alias lost: state.lost
     /*! The wrong answers so far, in a sentence each. */
