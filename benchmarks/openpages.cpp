@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
+#include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -22,6 +23,7 @@
 #include <cstdio>
 #include <ctime>
 #include <malloc.h>
+#include <memory>
 #include <sys/resource.h>
 
 namespace
@@ -200,6 +202,9 @@ int main(int argc, char **argv)
     // A sequence begins with its list: what its pages need is loaded behind it.
     shell.show(QStringLiteral("list"));
     wait(2000);
+    // The receiver begins with the sequence, too.
+    QQmlComponent satellites(view.engine(), QUrl::fromLocalFile(Pages + QStringLiteral("/flow/Satellites.qml")));
+    const std::unique_ptr<QObject> receiver(satellites.create());
     QVector<Cost> opening;
     double first = 0;
     for (int i = 0; i < names.size(); ++i) {

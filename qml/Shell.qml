@@ -21,6 +21,8 @@ Item {
     readonly property alias screen: screens.item
     /*! A call that blocks is about to be made or is being made. */
     readonly property bool busy: working.item !== null && working.item.visible
+    /*! The pages of the chosen sequence, held so that the engine keeps them. */
+    property var pages: []
     /*! Whether the present test was opened by itself from the list. */
     property bool single: false
 
@@ -56,8 +58,24 @@ Item {
         //% "Checking what this phone has"
         blocking(qsTrId("kiv-working-probing"), function() {
             flow.choose(mode, shell.features());
+            shell.preload();
             shell.show("ListScreen");
         });
+    }
+
+    /*! Loads the pages of a sequence, so that each opens at once and the sequence needs no more memory as it goes on. */
+    function preload() {
+        if (flow.mode === TestTable.AllTests) {
+            pages = [];
+            return;
+        }
+        var files = flow.ready.map(function(row) { return row.page; });
+        flow.ready.forEach(function(row) {
+            if (row.part)
+                files.push(row.part);
+        });
+        pages = files.map(function(file) { return Qt.createComponent("pages/" + file); });
+        cues.active = true;
     }
 
     function startRun(rows) {

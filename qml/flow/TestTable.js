@@ -9,6 +9,7 @@
 //   timeout: seconds after which the operator is asked how to go on
 //   alone:   runs without an operator, so that the run-in can repeat it
 //   early:   what is slow to begin with and therefore begins with the sequence, a file of this folder
+//   part:    a file that the page loads only where the system has what it imports
 //   runIn:   place in the run-in sequence where that differs from this order
 var rows = [
     //% "Touch panel self-test"
@@ -76,10 +77,10 @@ var rows = [
       glyph: "camera", kind: "guided", seconds: 20, timeout: 80, early: "Pictures", alone: true, runIn: 2 },
     //% "Wi-Fi"
     { name: "VerificationWifi", title: QT_TRID_NOOP("kiv-test-wifi"), needs: ["Wifi"], page: "VerificationWifi.qml",
-      glyph: "radio", kind: "measured", seconds: 20, timeout: 80, alone: true },
+      glyph: "radio", kind: "measured", seconds: 20, timeout: 80, part: "NetworkInformation.qml", alone: true },
     //% "Bluetooth"
     { name: "VerificationBluetooth", title: QT_TRID_NOOP("kiv-test-bluetooth"), needs: ["Bluetooth"], page: "VerificationBluetooth.qml",
-      glyph: "bluetooth", kind: "measured", seconds: 20, timeout: 80, alone: true },
+      glyph: "bluetooth", kind: "measured", seconds: 20, timeout: 80, part: "BluetoothSearch.qml", alone: true },
     //% "Smart cover"
     { name: "VerificationZel", title: QT_TRID_NOOP("kiv-test-zel"), needs: ["ZEL"], page: "VerificationZel.qml",
       glyph: "cover", kind: "measured", seconds: 30, timeout: 120 },
@@ -106,7 +107,7 @@ var rows = [
       glyph: "vibrator", kind: "guided", seconds: 15, timeout: 60 },
     //% "SIM card"
     { name: "VerificationSim", title: QT_TRID_NOOP("kiv-test-sim"), needs: ["SIM"], page: "VerificationSim.qml",
-      glyph: "sim", kind: "measured", seconds: 20, timeout: 80, alone: true },
+      glyph: "sim", kind: "measured", seconds: 20, timeout: 80, part: "NetworkInformation.qml", alone: true },
     //% "Memory card"
     { name: "VerificationSdCard", title: QT_TRID_NOOP("kiv-test-sd-card"), needs: ["SDCard"], page: "VerificationSdCard.qml",
       glyph: "sdcard", kind: "measured", seconds: 20, timeout: 80, alone: true },
