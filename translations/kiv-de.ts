@@ -2725,5 +2725,22 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation>Das WLAN-Funkteil wird abgefragt</translation>
     </message>
+    <message id="kiv-led-switching">
+        <source>Switching charging</source>
+        <translation>Das Laden wird geschaltet</translation>
+    </message>
+    <message id="kiv-led-step-switch">
+        <source>Say what it does while Kiv switches charging off and on</source>
+        <translation>Sagen Sie, was sie zeigt, während Kiv das Laden aus- und einschaltet</translation>
+    </message>
+    <message id="kiv-led-good-switched">
+        <source>The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off.</source>
+        <extracomment>What the operator saw of the notification light</extracomment>
+        <translation>Der Prüfer hat die Leuchte beim Laden gesehen (%1), und dunkel, sooft Kiv das Laden ausgeschaltet hatte.</translation>
+    </message>
+    <message id="kiv-led-by-hand">
+        <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
+        <translation>Die Antworten passen nicht zusammen: Vielleicht folgt diese Leuchte dem Laden nicht. Sehen Sie noch einmal hin und ziehen Sie das Ladegerät selbst ab.</translation>
+    </message>
 </context>
 </TS>

@@ -2710,5 +2710,22 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation>Kysytään WLAN-radiolta</translation>
     </message>
+    <message id="kiv-led-switching">
+        <source>Switching charging</source>
+        <translation>Latausta kytketään</translation>
+    </message>
+    <message id="kiv-led-step-switch">
+        <source>Say what it does while Kiv switches charging off and on</source>
+        <translation>Kerro, mitä valo näyttää, kun Kiv kytkee latauksen pois ja päälle</translation>
+    </message>
+    <message id="kiv-led-good-switched">
+        <source>The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off.</source>
+        <extracomment>What the operator saw of the notification light</extracomment>
+        <translation>Testaaja näki valon puhelimen latautuessa (%1) ja pimeänä aina, kun Kiv oli kytkenyt latauksen pois.</translation>
+    </message>
+    <message id="kiv-led-by-hand">
+        <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
+        <translation>Vastaukset eivät sovi yhteen: ehkä tämä valo ei seuraa latausta. Katso uudelleen ja irrota laturi itse.</translation>
+    </message>
 </context>
 </TS>

@@ -2725,5 +2725,22 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation>שואל על רכיב ה־Wi-Fi</translation>
     </message>
+    <message id="kiv-led-switching">
+        <source>Switching charging</source>
+        <translation>מחליף את מצב הטעינה</translation>
+    </message>
+    <message id="kiv-led-step-switch">
+        <source>Say what it does while Kiv switches charging off and on</source>
+        <translation>אמרו מה הנורית מראה בזמן ש־Kiv מכבה ומדליק את הטעינה</translation>
+    </message>
+    <message id="kiv-led-good-switched">
+        <source>The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off.</source>
+        <extracomment>What the operator saw of the notification light</extracomment>
+        <translation>המפעיל ראה את הנורית בזמן הטעינה (⁨%1⁩), וכבויה בכל פעם ש־Kiv כיבה את הטעינה.</translation>
+    </message>
+    <message id="kiv-led-by-hand">
+        <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
+        <translation>התשובות אינן מתיישבות: אולי הנורית הזאת אינה עוקבת אחרי הטעינה. הסתכלו שוב, ונתקו את המטען בעצמכם.</translation>
+    </message>
 </context>
 </TS>

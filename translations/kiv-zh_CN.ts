@@ -2725,5 +2725,22 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation>正在查询 Wi-Fi 模块</translation>
     </message>
+    <message id="kiv-led-switching">
+        <source>Switching charging</source>
+        <translation>正在切换充电</translation>
+    </message>
+    <message id="kiv-led-step-switch">
+        <source>Say what it does while Kiv switches charging off and on</source>
+        <translation>Kiv 关闭和打开充电时，回答指示灯的情况</translation>
+    </message>
+    <message id="kiv-led-good-switched">
+        <source>The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off.</source>
+        <extracomment>What the operator saw of the notification light</extracomment>
+        <translation>操作员看到充电时指示灯亮起（%1），并且每次 Kiv 关闭充电时指示灯都熄灭。</translation>
+    </message>
+    <message id="kiv-led-by-hand">
+        <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
+        <translation>回答不一致：此指示灯可能不随充电变化。请再看一次，并自己拔下充电器。</translation>
+    </message>
 </context>
 </TS>

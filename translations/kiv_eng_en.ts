@@ -2725,5 +2725,22 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-led-switching">
+        <source>Switching charging</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-step-switch">
+        <source>Say what it does while Kiv switches charging off and on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-good-switched">
+        <source>The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off.</source>
+        <extracomment>What the operator saw of the notification light</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-led-by-hand">
+        <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -98,7 +98,7 @@ var rows = [
       glyph: "charging", kind: "measured", seconds: 30, timeout: 120 },
     //% "Notification light"
     { name: "VerificationLED", title: QT_TRID_NOOP("kiv-test-led"), needs: ["LED"], page: "VerificationLED.qml",
-      glyph: "led", kind: "guided", seconds: 20, timeout: 80 },
+      glyph: "led", kind: "guided", seconds: 35, timeout: 120 },
     //% "Key illumination"
     { name: "VerificationButtonBacklight", title: QT_TRID_NOOP("kiv-test-button-backlight"), needs: ["Backlight"], page: "VerificationButtonBacklight.qml",
       glyph: "light", kind: "guided", seconds: 15, timeout: 60 },

@@ -4,38 +4,125 @@ import Kiv 1.0
 import "../controls"
 
 /*!
- * A page cannot switch the notification light. The phone lights it while it charges, and the battery says when that is; the
- * operator names what he saw, instead of agreeing to it.
+ * A page cannot switch the notification light, but the phone lights it while it charges, and charging can be switched. So
+ * the operator names the colour, and then says what the light shows while charging is off or on by chance. Where charging
+ * cannot be switched, or the light does not follow it, he unplugs the charger by hand.
  */
 TestPage {
     id: page
 
+    // As on the page of the charger: some batteries report once in five seconds.
+    readonly property int reactionSeconds: 12
+    /*! The light follows the battery's state, and fades. */
+    readonly property int fadeSeconds: 2
+
     readonly property bool colourful: KivHwSettings.ledType !== "Binary"
     /*! Whether the phone tells when it charges. Else the operator does. */
     property bool observed: false
-    property bool chargingSeen: false
+    readonly property bool charging: status.value === "Charging" || status.value === "Full"
+    property bool pluggedSaid: false
+    readonly property bool plugged: observed ? charging : pluggedSaid
     property bool unpluggedSeen: false
-    property string seen
+    /*! What the light shows while the phone charges: one of the choices. */
+    property var seen: null
+
+    /*! Charging cannot be switched, or the light did not follow it. */
+    property bool byHand: false
+    property bool chargerOff: false
+    /*! Seconds since charging was switched, and since the battery has noticed. */
+    property int sinceSwitched: 0
+    property int sinceNoticed: 0
+    /*! The choices in an order of chance, new for every question. */
+    property var mixed: []
+
+    // A light of one colour is lit or not.
+    readonly property var choices: colourful ? [
+        //% "Red"
+        { value: "red", text: qsTrId("kiv-led-red") },
+        //% "Orange or yellow"
+        { value: "orange", text: qsTrId("kiv-led-orange") },
+        //% "Green"
+        { value: "green", text: qsTrId("kiv-led-green") },
+        //% "Blue"
+        { value: "blue", text: qsTrId("kiv-led-blue") },
+        //% "White"
+        { value: "white", text: qsTrId("kiv-led-white") },
+        //% "Nothing"
+        { value: "none", text: qsTrId("kiv-led-nothing") }
+    ] : [
+        //% "It is lit"
+        { value: "lit", text: qsTrId("kiv-led-lit") },
+        { value: "none", text: qsTrId("kiv-led-nothing") }
+    ]
+
+    function shuffled(list) {
+        var rest = list.slice(), drawn = [];
+        while (rest.length > 0)
+            drawn.push(rest.splice(Math.floor(Math.random() * rest.length), 1)[0]);
+        return drawn;
+    }
 
     function sample() {
-        var state = battery.status();
-        status.value = state;
-        observed = state !== "";
-        if (state === "Charging" || state === "Full")
-            chargingSeen = true;
-        else if (state === "Discharging" && seen !== "")
+        status.value = battery.status();
+        observed = status.value !== "";
+        if (challenge.running)
+            watch();
+        else if (byHand && seen !== null && observed && !charging)
             unpluggedSeen = true;
     }
 
+    function watch() {
+        if (charging === chargerOff) {
+            sinceNoticed = 0;
+            if (++sinceSwitched >= reactionSeconds)
+                goOnByHand();
+        } else {
+            ++sinceNoticed;
+        }
+    }
+
     function say(choice) {
-        if (seen !== "")
+        if (seen !== null)
             return;
-        seen = choice.text;
-        if (choice.value === "none")
+        seen = choice;
+        if (choice.value === "none") {
             //% "The light stayed dark while the phone was charging."
             judge(FactoryUtils.Fail, qsTrId("kiv-led-dark"));
+            return;
+        }
+        sample();
+        if (!byHand && observed && charging)
+            challenge.start();
         else
-            sample();
+            byHand = true;
+    }
+
+    function show(value) {
+        mixed = shuffled(choices);
+        sinceSwitched = 0;
+        sinceNoticed = 0;
+        var off = value === "none";
+        if (off !== chargerOff)
+            //% "Switching charging"
+            blocking(qsTrId("kiv-led-switching"), off ? switchOff : switchOn);
+    }
+
+    function switchOff() {
+        chargerOff = true;
+        battery.disableCharger();
+    }
+
+    function switchOn() {
+        chargerOff = false;
+        battery.enableCharger();
+    }
+
+    function goOnByHand() {
+        challenge.stop();
+        byHand = true;
+        if (chargerOff)
+            //% "Switching charging"
+            blocking(qsTrId("kiv-led-switching"), switchOn);
     }
 
     //% "Plug a charger in: the phone then lights its notification light."
@@ -46,10 +133,16 @@ TestPage {
     evidenceHint: qsTrId("kiv-led-hint")
 
     onOpened: {
+        mixed = shuffled(choices);
         sample();
         poll.start();
     }
-    onClosing: poll.stop()
+    onClosing: {
+        poll.stop();
+        challenge.stop();
+        if (chargerOff)
+            switchOn();
+    }
 
     Battery {
         id: battery
@@ -73,33 +166,37 @@ TestPage {
         id: colour
         //% "Light while charging"
         name: qsTrId("kiv-led-colour")
-        value: page.seen
-        settled: page.seen !== ""
+        value: page.seen ? page.seen.text : ""
+        settled: page.seen !== null
     }
 
     StepList {
         width: parent.width
         steps: [
             //% "Plug a charger into the USB socket"
-            { text: qsTrId("kiv-charging-step-plug"), done: page.chargingSeen },
+            { text: qsTrId("kiv-charging-step-plug"), done: page.seen !== null || page.plugged },
             //% "Say what the light does"
-            { text: qsTrId("kiv-led-step-colour"), done: page.seen !== "" },
+            { text: qsTrId("kiv-led-step-colour"), done: page.seen !== null },
+            page.byHand
             //% "Unplug the charger"
-            { text: qsTrId("kiv-led-step-unplug"), done: page.unpluggedSeen }
+            ? { text: qsTrId("kiv-led-step-unplug"), done: page.unpluggedSeen }
+            //% "Say what it does while Kiv switches charging off and on"
+            : { text: qsTrId("kiv-led-step-switch"), done: challenge.solved }
         ]
     }
     PushButton {
         objectName: "plugged"
         width: parent.width
-        visible: page.isOpen && !page.observed && !page.chargingSeen
+        visible: page.isOpen && !page.observed && !page.plugged
         //% "The charger is plugged in"
         text: qsTrId("kiv-led-plugged")
-        onClicked: page.chargingSeen = true
+        onClicked: page.pluggedSaid = true
     }
     PushButton {
         objectName: "unplugged"
         width: parent.width
-        visible: page.isOpen && !page.observed && page.seen !== "" && !page.unpluggedSeen && page.verdict === ""
+        visible: page.isOpen && !page.observed && page.byHand && page.seen !== null && !page.unpluggedSeen
+                 && page.verdict === ""
         //% "The charger is unplugged"
         text: qsTrId("kiv-led-unplugged")
         onClicked: page.unpluggedSeen = true
@@ -107,7 +204,7 @@ TestPage {
     Column {
         width: parent.width
         spacing: Theme.gap
-        visible: page.isOpen && page.chargingSeen && page.seen === ""
+        visible: page.isOpen && page.plugged && page.seen === null
 
         Words {
             width: parent.width
@@ -124,25 +221,7 @@ TestPage {
             spacing: Theme.gap
 
             Repeater {
-                // A light of one colour is lit or not.
-                model: page.colourful ? [
-                    //% "Red"
-                    { value: "red", text: qsTrId("kiv-led-red") },
-                    //% "Orange or yellow"
-                    { value: "orange", text: qsTrId("kiv-led-orange") },
-                    //% "Green"
-                    { value: "green", text: qsTrId("kiv-led-green") },
-                    //% "Blue"
-                    { value: "blue", text: qsTrId("kiv-led-blue") },
-                    //% "White"
-                    { value: "white", text: qsTrId("kiv-led-white") },
-                    //% "Nothing"
-                    { value: "none", text: qsTrId("kiv-led-nothing") }
-                ] : [
-                    //% "It is lit"
-                    { value: "lit", text: qsTrId("kiv-led-lit") },
-                    { value: "none", text: qsTrId("kiv-led-nothing") }
-                ]
+                model: page.mixed
 
                 PushButton {
                     objectName: "light-" + modelData.value
@@ -154,9 +233,28 @@ TestPage {
             }
         }
     }
+    Challenge {
+        id: challenge
+        width: parent.width
+        columns: 2
+        question: qsTrId("kiv-led-question")
+        choices: page.mixed
+        values: page.seen ? [page.seen.value, "none"] : []
+        rounds: 3
+        ready: page.sinceNoticed > page.fadeSeconds
+        onPosed: page.show(value)
+        //: What the operator saw of the notification light
+        //% "The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off."
+        onPassed: page.judge(FactoryUtils.Pass, qsTrId("kiv-led-good-switched").arg(page.seen.text))
+        // A slip of the finger, a light that shows something else, or one that is faulty: by hand it is told from the start.
+        onFailed: {
+            page.seen = null;
+            page.goOnByHand();
+        }
+    }
     Checks {
         width: parent.width
-        asking: page.isOpen && page.unpluggedSeen && page.verdict === ""
+        asking: page.isOpen && page.byHand && page.unpluggedSeen && page.verdict === ""
         questions: [
             //% "Is the light still lit as before?"
             { name: "out", text: qsTrId("kiv-led-still"), good: false,
@@ -165,8 +263,15 @@ TestPage {
         ]
         //: What the operator saw of the notification light
         //% "The operator saw the light while the phone charged (%1), and saw it go out."
-        onPassed: page.judge(FactoryUtils.Pass, qsTrId("kiv-led-good").arg(page.seen))
+        onPassed: page.judge(FactoryUtils.Pass, qsTrId("kiv-led-good").arg(page.seen.text))
         onFailed: page.judge(FactoryUtils.Fail, reason)
+    }
+    Notice {
+        width: parent.width
+        visible: challenge.lost && page.verdict === ""
+        kind: "near"
+        //% "The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself."
+        text: qsTrId("kiv-led-by-hand")
     }
     Notice {
         width: parent.width

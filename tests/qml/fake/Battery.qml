@@ -19,6 +19,6 @@ QtObject {
     function status() { return Phone.battery.status || ""; }
     function temperature() { return number("temperature"); }
     function present() { return Phone.battery.present === true; }
-    function enableCharger() { Phone.note("enableCharger"); }
-    function disableCharger() { Phone.note("disableCharger"); }
+    function enableCharger() { Phone.switchCharger(true); }
+    function disableCharger() { Phone.switchCharger(false); }
 }

@@ -7,6 +7,8 @@ QtObject {
     id: phone
 
     property var battery: ({})
+    /*! Whether the battery notices at once when charging is switched. */
+    property bool chargerFollows: false
     property var unsupported: []
     property var factoryTests: null
     property var runInTests: []
@@ -83,6 +85,7 @@ QtObject {
 
     function reset() {
         battery = goodBattery();
+        chargerFollows = false;
         unsupported = [];
         factoryTests = null;
         runInTests = ["VerificationLcdBacklight", "VerificationBackCamera", "VerificationLcd",
@@ -203,6 +206,12 @@ QtObject {
         for (var change in changes)
             all[change] = changes[change];
         battery = all;
+    }
+
+    function switchCharger(on) {
+        note(on ? "enableCharger" : "disableCharger");
+        if (chargerFollows)
+            setBattery({ status: on ? "Charging" : "Discharging" });
     }
 
     Component.onCompleted: reset()

@@ -390,7 +390,32 @@ Driver {
 
     // Notification light
 
+    function lit() {
+        return Phone.battery.status === "Charging";
+    }
+
+    /*! What a light says that shows this colour while the phone charges, until that has been asked often enough. */
+    function tellTheLight(colour, rounds) {
+        for (var round = 0; round < rounds; ++round) {
+            tryVerify(function() { return find("answer-" + colour).enabled; }, 12000);
+            press("answer-" + (lit() ? colour : "none"));
+        }
+    }
+
+    function answerUntilChargingIsOff(colour) {
+        function switchedOff() {
+            return Phone.log.indexOf("disableCharger") >= 0;
+        }
+        for (;;) {
+            tryVerify(function() { return switchedOff() || find("answer-" + colour).enabled; }, 12000);
+            if (switchedOff())
+                return;
+            press("answer-" + colour);
+        }
+    }
+
     function test_notificationLight() {
+        Phone.chargerFollows = true;
         Phone.setBattery({ status: "Discharging" });
         openTest("VerificationLED");
         compare(shown("light-red").length, 0);
@@ -398,24 +423,64 @@ Driver {
         press("light-orange");
         compare(page.verdict, "");
         compare(value("Light while charging"), "Orange or yellow");
+        verify(!find("answer-orange").enabled, "the light needs time to follow");
+        tellTheLight("orange", 3);
+        verdictIs(FactoryUtils.Pass, "Orange or yellow");
+        verify(Phone.log.indexOf("disableCharger") >= 0);
+        shell.leaveTest();
+        compare(Phone.battery.status, "Charging");
+    }
+
+    /*! Whoever always taps the same has to look once more, and at a light that he himself makes go out. */
+    function test_notificationLightOfAnOperatorWhoDoesNotLook() {
+        Phone.chargerFollows = true;
+        openTest("VerificationLED");
+        press("light-green");
+        for (var mistakes = 0; mistakes < 2; ) {
+            tryVerify(function() { return find("answer-green").enabled; }, 12000);
+            if (!lit())
+                ++mistakes;
+            press("answer-green");
+        }
+        compare(page.verdict, "");
+        compare(shown("answer-green").length, 0);
+        tryVerify(lit, 5000);
+        compare(value("Light while charging"), "no reading");
+        verify(!find("pass").enabled);
+        press("light-green");
+        compare(shown("yes").length, 0);
+        Phone.setBattery({ status: "Discharging" });
+        answer(true);
+        verdictIs(FactoryUtils.Fail, "does not change");
+    }
+
+    function test_notificationLightWhereChargingCannotBeSwitched() {
+        openTest("VerificationLED");
+        press("light-orange");
+        answerUntilChargingIsOff("orange");
+        compare(shown("yes").length, 0);
+        tryVerify(function() { return shown("answer-orange").length === 0; }, 15000);
+        tryVerify(function() { return Phone.log[Phone.log.length - 1] === "enableCharger"; });
         compare(shown("yes").length, 0);
         Phone.setBattery({ status: "Discharging" });
         answer(false);
-        verdictIs(FactoryUtils.Pass, "Orange or yellow");
+        verdictIs(FactoryUtils.Pass, "go out");
+    }
+
+    function test_notificationLightLeftWhileChargingIsOff() {
+        Phone.chargerFollows = true;
+        openTest("VerificationLED");
+        press("light-green");
+        answerUntilChargingIsOff("green");
+        verify(!lit());
+        shell.leaveTest();
+        verify(lit());
     }
 
     function test_notificationLightThatStaysDark() {
         openTest("VerificationLED");
         press("light-none");
         verdictIs(FactoryUtils.Fail, "stayed dark");
-    }
-
-    function test_notificationLightThatStaysLit() {
-        openTest("VerificationLED");
-        press("light-green");
-        Phone.setBattery({ status: "Discharging" });
-        answer(true);
-        verdictIs(FactoryUtils.Fail, "does not change");
     }
 
     function test_aLightOfOneColourHasNoColours() {
