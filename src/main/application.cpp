@@ -55,6 +55,8 @@ extern "C" Q_DECL_EXPORT int kivApplicationMain(int argc, char **argv)
     usePrecompiledPagesOnly();
     registerKivTypes();
     QQuickWindow::setDefaultAlphaBuffer(true);
+    // Qt would keep the shaders of what it draws below the user's home.
+    QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
 
     // Destroyed in the reverse of this order when the event loop has ended.
     const auto engineering = std::make_unique<QTranslator>(nullptr);
@@ -76,6 +78,7 @@ extern "C" Q_DECL_EXPORT int kivApplicationMain(int argc, char **argv)
     QCoreApplication::installTranslator(engineering.get());
     QCoreApplication::installTranslator(localised.get());
 
+    keepMediaRegistryUnwritten();
     const std::unique_ptr<QQuickView> view(KestraneApp::createView());
     // Queued, because a page may ask to quit while it is being loaded, when no loop runs that could end.
     QObject::connect(view->engine(), &QQmlEngine::quit, application.get(), &QCoreApplication::quit,
@@ -91,7 +94,6 @@ extern "C" Q_DECL_EXPORT int kivApplicationMain(int argc, char **argv)
 
     // For the camera pipelines that pages create from now on.
     qputenv("QT_GSTREAMER_CAMERABIN_SRC", "droidcamsrc");
-    keepMediaRegistryUnwritten();
 
     return QGuiApplication::exec();
 }
