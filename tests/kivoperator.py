@@ -2,6 +2,7 @@
 """An operator at a simulated phone: fingers on its touch panel and its other parts in his hands by way of phonectl,
 eyes on its screen. The installed program runs unchanged; its first page also says what is to be seen where."""
 
+import collections
 import itertools
 import json
 import os
@@ -129,7 +130,7 @@ Shell {
 class Phone:
     """A simulated phone with a screen. It is there before Kiv starts on it, and after Kiv has ended."""
 
-    def __init__(self, name='full', files=None):
+    def __init__(self, name='full', files=None, opengl=False):
         self.identifier = 'operator-%d-%d' % (os.getpid(), next(SERIAL))
         self.folder = tempfile.mkdtemp(prefix='kiv-operator-')
         self.display = None
@@ -147,7 +148,8 @@ class Phone:
             self.display = Display(SIZE)
             environment = {key: value for key, value in os.environ.items()
                            if not key.startswith('LC_') and key not in ('LANG', 'LANGUAGE', 'QT_SCALE_FACTOR')}
-            environment.update(self.display.environment, QT_QPA_PLATFORM='xcb', QT_QUICK_BACKEND='software',
+            environment.update(self.display.environment, QT_QPA_PLATFORM='xcb',
+                               QT_QUICK_BACKEND='' if opengl else 'software',
                                LC_ALL='C.UTF-8', QT_LOGGING_RULES='default.debug=false',
                                QT_QPA_GENERIC_PLUGINS='evdevtouch:/dev/input/event2')
             self.process = subprocess.Popen(
@@ -312,14 +314,22 @@ class Phone:
             path = os.path.join(PICTURES, '%s-%02d-%s.png' % (self.identifier, self.picture_count, name))
         self.display.screenshot(path)
 
-    def count_spots(self):
-        """How many spots of one colour are on the screen, on ground of another."""
-        path = os.path.join(self.folder, 'spots.png')
+    def pixels(self, width, height):
+        """The screen's colours, row by row, as if it had so many pixels."""
+        path = os.path.join(self.folder, 'pixels.png')
         self.display.screenshot(path)
-        width, height = SIZE[0] // 2, SIZE[1] // 2
         pixels = subprocess.run(['convert', path, '-filter', 'box', '-resize', '%dx%d!' % (width, height), '-depth',
                                  '8', 'rgb:-'], capture_output=True, check=True).stdout
-        colours = [pixels[at:at + 3] for at in range(0, len(pixels), 3)]
+        return [pixels[at:at + 3] for at in range(0, len(pixels), 3)]
+
+    def colours(self):
+        """The screen's colours, and how often each is there."""
+        return collections.Counter(self.pixels(SIZE[0] // 2, SIZE[1] // 2))
+
+    def count_spots(self):
+        """How many spots of one colour are on the screen, on ground of another."""
+        width, height = SIZE[0] // 2, SIZE[1] // 2
+        colours = self.pixels(width, height)
         ground = max(set(colours), key=colours.count)
         spots = {at for at, colour in enumerate(colours) if sum(abs(a - b) for a, b in zip(colour, ground)) > 250}
         count = 0

@@ -98,6 +98,10 @@ class Display:
                 raise NoDisplay('the window manager does not start: %s' % self.log('matchbox-window-manager'))
             time.sleep(0.01)
 
+    def has_opengl(self):
+        return 'GLX' in subprocess.run(['xdpyinfo', '-queryExtensions'], env=dict(os.environ, **self.environment),
+                                       capture_output=True, text=True).stdout
+
     def serve_vnc(self):
         """Serves the screen on the loopback address; returns the port."""
         port = FIRST_VNC_PORT

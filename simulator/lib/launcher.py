@@ -153,6 +153,9 @@ def start_command(options, stage, *more):
 def environment_for(options, display):
     environment = dict(os.environ, **display.environment)
     environment['QT_QPA_PLATFORM'] = 'xcb'
+    # The software renderer would leave out what cameras and videos show.
+    if display.has_opengl():
+        environment.setdefault('QT_QUICK_BACKEND', '')
     for name in 'QT_SCALE_FACTOR', 'QT_SCREEN_SCALE_FACTORS', 'QT_AUTO_SCREEN_SCALE_FACTOR', 'WAYLAND_DISPLAY':
         environment.pop(name, None)
     if options.locale:

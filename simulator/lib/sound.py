@@ -56,9 +56,12 @@ class Sound:
             with open(pactl, 'rb') as source, open(FOLDER + '/pactl', 'wb') as target:
                 shutil.copyfileobj(source, target)
             os.chmod(FOLDER + '/pactl', 0o755)
-        # None is started by those who merely ask for one.
+        # None is started by those who merely ask for one. A phone's server has made a cookie for its user before any
+        # other program runs, so none of them leaves one in the home.
+        with open(FOLDER + '/cookie', 'wb') as file:
+            file.write(os.urandom(256))
         with open(FOLDER + '/client.conf', 'w') as file:
-            file.write('autospawn = no\nenable-shm = no\n')
+            file.write('autospawn = no\nenable-shm = no\ncookie-file = %s/cookie\n' % FOLDER)
         phone.environment['PULSE_CLIENTCONFIG'] = FOLDER + '/client.conf'
         for directory in FOLDER, PORTS:
             if uid is not None:
