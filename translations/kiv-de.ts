@@ -2742,5 +2742,41 @@
         <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
         <translation>Die Antworten passen nicht zusammen: Vielleicht folgt diese Leuchte dem Laden nicht. Sehen Sie noch einmal hin und ziehen Sie das Ladegerät selbst ab.</translation>
     </message>
+    <message id="kiv-key-volume-up">
+        <source>Volume up</source>
+        <translation>Lautstärke lauter</translation>
+    </message>
+    <message id="kiv-key-volume-down">
+        <source>Volume down</source>
+        <translation>Lautstärke leiser</translation>
+    </message>
+    <message id="kiv-key-power">
+        <source>Power key</source>
+        <translation>Ein-/Aus-Taste</translation>
+    </message>
+    <message id="kiv-key-camera">
+        <source>Camera key</source>
+        <translation>Kamerataste</translation>
+    </message>
+    <message id="kiv-key-focus">
+        <source>Camera key, half pressed</source>
+        <translation>Kamerataste, halb gedrückt</translation>
+    </message>
+    <message id="kiv-key-home">
+        <source>Home key</source>
+        <translation>Home-Taste</translation>
+    </message>
+    <message id="kiv-key-back">
+        <source>Back key</source>
+        <translation>Zurück-Taste</translation>
+    </message>
+    <message id="kiv-key-menu">
+        <source>Menu key</source>
+        <translation>Menütaste</translation>
+    </message>
+    <message id="kiv-key-search">
+        <source>Search key</source>
+        <translation>Suchtaste</translation>
+    </message>
 </context>
 </TS>

@@ -2727,5 +2727,41 @@
         <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
         <translation>Vastaukset eivät sovi yhteen: ehkä tämä valo ei seuraa latausta. Katso uudelleen ja irrota laturi itse.</translation>
     </message>
+    <message id="kiv-key-volume-up">
+        <source>Volume up</source>
+        <translation>Äänenvoimakkuus ylös</translation>
+    </message>
+    <message id="kiv-key-volume-down">
+        <source>Volume down</source>
+        <translation>Äänenvoimakkuus alas</translation>
+    </message>
+    <message id="kiv-key-power">
+        <source>Power key</source>
+        <translation>Virtapainike</translation>
+    </message>
+    <message id="kiv-key-camera">
+        <source>Camera key</source>
+        <translation>Kamerapainike</translation>
+    </message>
+    <message id="kiv-key-focus">
+        <source>Camera key, half pressed</source>
+        <translation>Kamerapainike puoliksi painettuna</translation>
+    </message>
+    <message id="kiv-key-home">
+        <source>Home key</source>
+        <translation>Kotipainike</translation>
+    </message>
+    <message id="kiv-key-back">
+        <source>Back key</source>
+        <translation>Takaisin-painike</translation>
+    </message>
+    <message id="kiv-key-menu">
+        <source>Menu key</source>
+        <translation>Valikkopainike</translation>
+    </message>
+    <message id="kiv-key-search">
+        <source>Search key</source>
+        <translation>Hakupainike</translation>
+    </message>
 </context>
 </TS>

@@ -2742,5 +2742,41 @@
         <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
         <translation>התשובות אינן מתיישבות: אולי הנורית הזאת אינה עוקבת אחרי הטעינה. הסתכלו שוב, ונתקו את המטען בעצמכם.</translation>
     </message>
+    <message id="kiv-key-volume-up">
+        <source>Volume up</source>
+        <translation>הגברת עוצמה</translation>
+    </message>
+    <message id="kiv-key-volume-down">
+        <source>Volume down</source>
+        <translation>הנמכת עוצמה</translation>
+    </message>
+    <message id="kiv-key-power">
+        <source>Power key</source>
+        <translation>מקש ההפעלה</translation>
+    </message>
+    <message id="kiv-key-camera">
+        <source>Camera key</source>
+        <translation>מקש המצלמה</translation>
+    </message>
+    <message id="kiv-key-focus">
+        <source>Camera key, half pressed</source>
+        <translation>מקש המצלמה, לחיצה חלקית</translation>
+    </message>
+    <message id="kiv-key-home">
+        <source>Home key</source>
+        <translation>מקש הבית</translation>
+    </message>
+    <message id="kiv-key-back">
+        <source>Back key</source>
+        <translation>מקש החזרה</translation>
+    </message>
+    <message id="kiv-key-menu">
+        <source>Menu key</source>
+        <translation>מקש התפריט</translation>
+    </message>
+    <message id="kiv-key-search">
+        <source>Search key</source>
+        <translation>מקש החיפוש</translation>
+    </message>
 </context>
 </TS>

@@ -2742,5 +2742,41 @@
         <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
         <translation>回答不一致：此指示灯可能不随充电变化。请再看一次，并自己拔下充电器。</translation>
     </message>
+    <message id="kiv-key-volume-up">
+        <source>Volume up</source>
+        <translation>音量加键</translation>
+    </message>
+    <message id="kiv-key-volume-down">
+        <source>Volume down</source>
+        <translation>音量减键</translation>
+    </message>
+    <message id="kiv-key-power">
+        <source>Power key</source>
+        <translation>电源键</translation>
+    </message>
+    <message id="kiv-key-camera">
+        <source>Camera key</source>
+        <translation>相机键</translation>
+    </message>
+    <message id="kiv-key-focus">
+        <source>Camera key, half pressed</source>
+        <translation>相机键（半按）</translation>
+    </message>
+    <message id="kiv-key-home">
+        <source>Home key</source>
+        <translation>主屏幕键</translation>
+    </message>
+    <message id="kiv-key-back">
+        <source>Back key</source>
+        <translation>返回键</translation>
+    </message>
+    <message id="kiv-key-menu">
+        <source>Menu key</source>
+        <translation>菜单键</translation>
+    </message>
+    <message id="kiv-key-search">
+        <source>Search key</source>
+        <translation>搜索键</translation>
+    </message>
 </context>
 </TS>

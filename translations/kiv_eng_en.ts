@@ -2742,5 +2742,41 @@
         <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-key-volume-up">
+        <source>Volume up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-volume-down">
+        <source>Volume down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-power">
+        <source>Power key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-camera">
+        <source>Camera key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-focus">
+        <source>Camera key, half pressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-home">
+        <source>Home key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-back">
+        <source>Back key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-menu">
+        <source>Menu key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-key-search">
+        <source>Search key</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -8,6 +8,7 @@ var glyphs = {
     "fail": [["l", 5.5, 5.5, 18.5, 18.5], ["l", 18.5, 5.5, 5.5, 18.5]],
     "na": [["c", 12, 12, 9], ["l", 6, 18, 18, 6]],
     "untested": [["c", 12, 12, 9], ["l", 8, 12, 16, 12]],
+    "locked": arc(12, 8.5, 4.5, 180, 360).concat([["l", 7.5, 8.5, 7.5, 11], ["l", 16.5, 8.5, 16.5, 11], ["r", 4, 10, 16, 11, 2]]),
     "near": [["l", 12, 3.5, 2.5, 20], ["l", 12, 3.5, 21.5, 20], ["l", 2.5, 20, 21.5, 20], ["l", 12, 10, 12, 14],
              ["d", 12, 17, 1.2]],
     "unwritten": [["r", 4, 4, 16, 16, 3], ["d", 8, 12, 1.4], ["d", 12, 12, 1.4], ["d", 16, 12, 1.4]],
@@ -71,7 +72,7 @@ var glyphs = {
     "video": [["r", 3, 5, 18, 14, 2], ["l", 10, 9, 15, 12], ["l", 15, 12, 10, 15], ["l", 10, 15, 10, 9]],
     "sleep": [["l", 6, 6, 15, 6], ["l", 15, 6, 6, 18], ["l", 6, 18, 15, 18], ["l", 18, 4, 22, 4], ["l", 22, 4, 18, 9],
               ["l", 18, 9, 22, 9]],
-    "power": [["c", 12, 13, 8], ["l", 12, 2.5, 12, 12]],
+    "power": arc(12, 13, 8, -55, 235).concat([["l", 12, 2.5, 12, 11]]),
     "call": [["l", 5, 4, 8, 4], ["l", 8, 4, 9.5, 9], ["l", 9.5, 9, 7.5, 11], ["l", 7.5, 11, 13, 16.5], ["l", 13, 16.5, 15, 14.5],
              ["l", 15, 14.5, 20, 16], ["l", 20, 16, 20, 19], ["l", 20, 19, 17, 20], ["l", 17, 20, 5, 8], ["l", 5, 8, 5, 4]],
     "data": [["l", 8, 4, 8, 20], ["l", 8, 4, 4, 8], ["l", 8, 4, 12, 8], ["l", 16, 4, 16, 20], ["l", 16, 20, 12, 16],
@@ -79,6 +80,19 @@ var glyphs = {
     "system": [["r", 5, 5, 14, 14, 2], ["r", 9.5, 9.5, 5, 5, 0.5], ["l", 9, 2, 9, 4], ["l", 15, 2, 15, 4], ["l", 9, 20, 9, 22],
                ["l", 15, 20, 15, 22], ["l", 2, 9, 4, 9], ["l", 2, 15, 4, 15], ["l", 20, 9, 22, 9], ["l", 20, 15, 22, 15]]
 };
+
+// A part of a ring as lines: its middle, its radius, from where to where in degrees, clockwise from the right.
+function arc(x, y, radius, from, to) {
+    var count = Math.ceil((to - from) / 20);
+    function point(step) {
+        var angle = (from + (to - from) * step / count) * Math.PI / 180;
+        return [x + radius * Math.cos(angle), y + radius * Math.sin(angle)];
+    }
+    var lines = [];
+    for (var step = 0; step < count; ++step)
+        lines.push(["l"].concat(point(step), point(step + 1)));
+    return lines;
+}
 
 // The rectangles that draw an icon at a size: place, corner radius, rotation in degrees, and the width of the border of a
 // hollow one (0 for a filled one).

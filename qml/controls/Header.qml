@@ -14,7 +14,7 @@ Item {
     property alias trailing: slot.data
     signal back()
 
-    height: Math.max(Theme.target, titles.height + Theme.gap)
+    height: Math.max(Theme.target, titles.height + 2 * Theme.gap)
 
     PushButton {
         id: backButton

@@ -2,20 +2,23 @@
 import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 
-/*! A button that acts when it has been held for half a second, so that nobody taps it by habit. */
+/*!
+ * A button that acts when it has been held for half a second, so that nobody taps it by habit. While it cannot be pressed
+ * it is an empty frame, with a text that can still be read.
+ */
 T.DelayButton {
     id: button
 
     property string glyph
     property color fill: Theme.pass
     property color ink: Theme.passInk
+    readonly property color shownInk: enabled ? ink : Theme.muted
     /*! Tapped too shortly. */
     signal tooShort()
 
     implicitHeight: column.height + 2 * Theme.unit
     padding: Math.round(Theme.unit / 2)
     delay: 500
-    opacity: enabled ? 1 : 0.4
     Accessible.name: text
     // A screen reader's press has no length.
     Accessible.onPressAction: activated()
@@ -33,9 +36,9 @@ T.DelayButton {
 
     background: Rectangle {
         radius: Theme.radius
-        color: button.fill
+        color: button.enabled ? button.fill : "transparent"
         border.width: Theme.hairline
-        border.color: button.ink
+        border.color: button.enabled ? button.ink : Theme.line
 
         Rectangle {
             anchors.left: parent.left
@@ -65,14 +68,14 @@ T.DelayButton {
             Icon {
                 anchors.horizontalCenter: parent.horizontalCenter
                 name: button.glyph
-                color: button.ink
+                color: button.shownInk
                 size: 3.5 * Theme.unit
             }
             FittedWords {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 text: button.text
-                color: button.ink
+                color: button.shownInk
                 largest: 2 * Theme.unit
                 font.weight: Font.DemiBold
                 Accessible.ignored: true

@@ -54,6 +54,9 @@ TestPage {
             release(event.key);
     }
 
+    KeyWords {
+        id: keyWords
+    }
     Repeater {
         model: page.codes
 
@@ -63,7 +66,7 @@ TestPage {
             readonly property bool isSeen: page.seen.indexOf(modelData) >= 0
             readonly property color ink: isHeld ? Theme.accentInk : isSeen ? Theme.pass : Theme.text
             width: parent.width
-            height: Math.max(7 * Theme.unit, words.height + Theme.margin)
+            height: Math.max(7 * Theme.unit, column.height + Theme.margin)
             radius: Theme.radius
             color: isHeld ? Theme.accent : isSeen ? Theme.passTint : Theme.surface
             border.width: Theme.hairline
@@ -79,33 +82,35 @@ TestPage {
                 name: line.isSeen && !line.isHeld ? "pass" : "key"
                 color: line.ink
             }
-            Words {
-                id: words
+            Column {
+                id: column
                 anchors.left: mark.right
-                anchors.leftMargin: Theme.margin
-                anchors.right: stateWords.left
-                anchors.rightMargin: Theme.gap
-                anchors.verticalCenter: parent.verticalCenter
-                text: KivHwSettings.keyName(modelData)
-                color: line.ink
-                font.pixelSize: Theme.lead
-                font.weight: Font.DemiBold
-                Accessible.ignored: true
-            }
-            Words {
-                id: stateWords
                 anchors.right: parent.right
-                anchors.rightMargin: Theme.margin
+                anchors.margins: Theme.margin
                 anchors.verticalCenter: parent.verticalCenter
-                color: line.ink
-                font.pixelSize: Theme.small
-                text: line.isHeld ? //% "held"
-                                    qsTrId("kiv-key-held")
-                      : line.isSeen ? //% "in order"
-                                      qsTrId("kiv-reading-pass")
-                      : //% "not yet pressed"
-                        qsTrId("kiv-key-waiting")
-                Accessible.ignored: true
+
+                FittedWords {
+                    id: words
+                    width: parent.width
+                    text: keyWords.name(modelData)
+                    color: line.ink
+                    largest: Theme.lead
+                    font.weight: Font.DemiBold
+                    Accessible.ignored: true
+                }
+                Words {
+                    id: stateWords
+                    width: parent.width
+                    color: line.ink
+                    font.pixelSize: Theme.small
+                    text: line.isHeld ? //% "held"
+                                        qsTrId("kiv-key-held")
+                          : line.isSeen ? //% "in order"
+                                          qsTrId("kiv-reading-pass")
+                          : //% "not yet pressed"
+                            qsTrId("kiv-key-waiting")
+                    Accessible.ignored: true
+                }
             }
         }
     }

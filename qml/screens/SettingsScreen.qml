@@ -12,6 +12,9 @@ Item {
     RadioPreference {
         id: radio
     }
+    KeyWords {
+        id: keyWords
+    }
 
     Measurement {
         id: preference
@@ -29,7 +32,7 @@ Item {
         id: keys
         //% "Keys to test"
         name: qsTrId("kiv-settings-keys")
-        value: KivHwSettings.keys.map(function(key) { return KivHwSettings.keyName(key); }).join(", ")
+        value: KivHwSettings.keys.map(keyWords.name).join(", ")
     }
     Measurement {
         id: led

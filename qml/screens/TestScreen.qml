@@ -430,7 +430,7 @@ Item {
                                                          skipButton.implicitHeight, implicitHeight)
                 width: (parent.width - 2 * parent.spacing) / 3
                 height: tallest
-                glyph: "pass"
+                glyph: enabled ? "pass" : "locked"
                 enabled: screen.passUnlocked
                 fill: screen.decided === FactoryUtils.Fail ? Theme.passTint : Theme.pass
                 ink: screen.decided === FactoryUtils.Fail ? Theme.pass : Theme.passInk
