@@ -575,8 +575,8 @@
         <translation>Temperatur</translation>
     </message>
     <message id="kiv-sensor-instructions">
-        <source>Calibrate a sensor, take back its last calibration, or return to the factory&apos;s. Then judge by its values.</source>
-        <translation>Kalibrieren Sie einen Sensor, nehmen Sie seine letzte Kalibrierung zurück oder stellen Sie die Werkswerte her. Urteilen Sie dann nach seinen Werten.</translation>
+        <source>Calibrate a sensor, load its stored calibration, or return to the factory&apos;s. Then judge by its values.</source>
+        <translation>Kalibrieren Sie einen Sensor, laden Sie seine gespeicherte Kalibrierung oder kehren Sie zu den Werkswerten zurück. Urteilen Sie dann nach seinen Werten.</translation>
     </message>
     <message id="kiv-sensor-hint">
         <source>Pass unlocks when a sensor has been calibrated.</source>
@@ -607,8 +607,8 @@
         <translation>Kalibrieren</translation>
     </message>
     <message id="kiv-sensor-restore">
-        <source>Take back</source>
-        <translation>Zurücknehmen</translation>
+        <source>Stored values</source>
+        <translation>Gespeicherte Werte</translation>
     </message>
     <message id="kiv-sensor-reset">
         <source>Factory values</source>
@@ -1083,12 +1083,12 @@
         <translation>Das Telefon lädt: warten</translation>
     </message>
     <message id="kiv-charging-step-off">
-        <source>Charger switched off: charging stops</source>
-        <translation>Laden abgeschaltet: Es hört auf</translation>
+        <source>Kiv switches the charger off: charging stops</source>
+        <translation>Kiv schaltet das Laden ab: Es hört auf</translation>
     </message>
     <message id="kiv-charging-step-again">
-        <source>Charger switched on: charging resumes</source>
-        <translation>Laden eingeschaltet: Es beginnt wieder</translation>
+        <source>Kiv switches the charger on: charging resumes</source>
+        <translation>Kiv schaltet das Laden ein: Es beginnt wieder</translation>
     </message>
     <message id="kiv-charging-current-on">
         <source>Current, charger on</source>
@@ -1341,8 +1341,8 @@
         <translation>Frequenz</translation>
     </message>
     <message id="kiv-fm-radio-loop">
-        <source>Radio heard through the headset</source>
-        <translation>Radio im Headset zu hören</translation>
+        <source>Radio switched to the headset</source>
+        <translation>Radio auf das Headset geschaltet</translation>
     </message>
     <message id="kiv-fm-radio-off">
         <source>Switch the radio off</source>
@@ -1357,8 +1357,8 @@
         <translation>Das Radio ließ sich nicht einschalten: Die Tonsteuerung antwortet nicht oder bietet es nicht an.</translation>
     </message>
     <message id="kiv-microphone-unplayed">
-        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
-        <translation>Der Tondienst hat die Aufnahme nicht abgespielt: Er wurde neu gestartet, seit Kiv läuft. Starten Sie Kiv neu.</translation>
+        <source>The sound server did not play the recording: it was restarted while Kiv was running. Restart Kiv.</source>
+        <translation>Der Tondienst hat die Aufnahme nicht abgespielt: Er wurde neu gestartet, während Kiv lief. Starten Sie Kiv neu.</translation>
     </message>
     <message id="kiv-sound-unreached">
         <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
@@ -1514,8 +1514,8 @@
         <translation>aus</translation>
     </message>
     <message id="kiv-radios-instructions">
-        <source>Compare these with the phone&apos;s settings. A switch that is moved there moves here, too.</source>
-        <translation>Mit den Einstellungen des Telefons vergleichen. Was dort umgeschaltet wird, ändert sich auch hier.</translation>
+        <source>Compare these with the phone&apos;s settings. A switch that is moved there must move here, too.</source>
+        <translation>Vergleichen Sie mit den Einstellungen des Telefons. Was dort umgeschaltet wird, muss sich auch hier ändern.</translation>
     </message>
     <message id="kiv-radios-hint">
         <source>Pass unlocks when the mode-control service has answered.</source>
@@ -2076,8 +2076,8 @@
         <translation>Die Einstellungen dieses Telefons verlangen diesen Test nicht.</translation>
     </message>
     <message id="kiv-resistance-step-on">
-        <source>Measuring with the charger on: leave the phone alone</source>
-        <translation>Messung mit Ladegerät: Lassen Sie das Telefon in Ruhe</translation>
+        <source>Measuring with the charger on: leave phone and charger alone</source>
+        <translation>Messung bei eingeschaltetem Laden: Telefon und Ladegerät in Ruhe lassen</translation>
     </message>
     <message id="kiv-resistance-step-off">
         <source>Measuring with the charger off</source>
@@ -2440,9 +2440,9 @@
         <translation>Der Akku erreichte %1.</translation>
     </message>
     <message id="kiv-run-in-end-restart">
-        <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
+        <source>The phone&apos;s start time was %1 at the beginning and %2 at the end: it was restarted, or its clock was set.</source>
         <extracomment>Two times at which the phone was started</extracomment>
-        <translation>Das Telefon war laut Anfang am %1 und laut Ende am %2 gestartet worden: Es wurde neu gestartet, oder seine Uhr wurde gestellt.</translation>
+        <translation>Die Startzeit des Telefons war am Anfang %1 und am Ende %2: Es wurde neu gestartet, oder seine Uhr wurde gestellt.</translation>
     </message>
     <message id="kiv-run-in-end-operator">
         <source>The operator ended it.</source>
@@ -2491,9 +2491,9 @@
         <translation>Nicht wegen der Akkutemperatur anhalten</translation>
     </message>
     <message id="kiv-run-in-machine-start">
-        <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
+        <source>This phone was started on %1. A run-in that began earlier and left no result was ended by that start.</source>
         <extracomment>A date and time</extracomment>
-        <translation>Dieses Telefon wurde am %1 gestartet. Endete ein Dauerlauf ohne Ergebnis, so liegt es an einem Neustart seitdem.</translation>
+        <translation>Dieses Telefon wurde am %1 gestartet. Ein Dauerlauf, der davor begann und kein Ergebnis hinterließ, wurde durch diesen Start beendet.</translation>
     </message>
     <message id="kiv-run-in-total">
         <source>Loops: %1, time: %2</source>
@@ -2632,8 +2632,8 @@
         <translation>Es steht still</translation>
     </message>
     <message id="kiv-camera-light">
-        <source>Does the light beside the camera burn?</source>
-        <translation>Brennt das Licht neben der Kamera?</translation>
+        <source>Is the light beside the camera on?</source>
+        <translation>Leuchtet das Licht neben der Kamera?</translation>
     </message>
     <message id="kiv-camera-stains">
         <source>Are there stains, stripes or wrong colours in the picture?</source>

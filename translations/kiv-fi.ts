@@ -403,8 +403,8 @@
         <translation>Lämpötila</translation>
     </message>
     <message id="kiv-sensor-instructions">
-        <source>Calibrate a sensor, take back its last calibration, or return to the factory&apos;s. Then judge by its values.</source>
-        <translation>Kalibroi anturi, peru viimeisin kalibrointi tai palauta tehdasarvot. Arvioi sitten anturin arvot.</translation>
+        <source>Calibrate a sensor, load its stored calibration, or return to the factory&apos;s. Then judge by its values.</source>
+        <translation>Kalibroi anturi, lataa sen tallennettu kalibrointi tai palauta tehdasarvot. Arvioi sitten anturin arvot.</translation>
     </message>
     <message id="kiv-sensor-hint">
         <source>Pass unlocks when a sensor has been calibrated.</source>
@@ -435,8 +435,8 @@
         <translation>Kalibroi</translation>
     </message>
     <message id="kiv-sensor-restore">
-        <source>Take back</source>
-        <translation>Peru</translation>
+        <source>Stored values</source>
+        <translation>Tallennetut arvot</translation>
     </message>
     <message id="kiv-sensor-reset">
         <source>Factory values</source>
@@ -962,12 +962,12 @@
         <translation>Puhelin latautuu: odota</translation>
     </message>
     <message id="kiv-charging-step-off">
-        <source>Charger switched off: charging stops</source>
-        <translation>Lataus kytketty pois: se loppuu</translation>
+        <source>Kiv switches the charger off: charging stops</source>
+        <translation>Kiv kytkee latauksen pois: se loppuu</translation>
     </message>
     <message id="kiv-charging-step-again">
-        <source>Charger switched on: charging resumes</source>
-        <translation>Lataus kytketty päälle: se jatkuu</translation>
+        <source>Kiv switches the charger on: charging resumes</source>
+        <translation>Kiv kytkee latauksen päälle: se jatkuu</translation>
     </message>
     <message id="kiv-charging-current-on">
         <source>Current, charger on</source>
@@ -1326,8 +1326,8 @@
         <translation>Taajuus</translation>
     </message>
     <message id="kiv-fm-radio-loop">
-        <source>Radio heard through the headset</source>
-        <translation>Radio kuuluu kuulokkeista</translation>
+        <source>Radio switched to the headset</source>
+        <translation>Radio kytketty kuulokkeisiin</translation>
     </message>
     <message id="kiv-fm-radio-off">
         <source>Switch the radio off</source>
@@ -1342,7 +1342,7 @@
         <translation>Radiota ei voitu kytkeä päälle: ääniohjaus ei vastaa tai ei tarjoa sitä.</translation>
     </message>
     <message id="kiv-microphone-unplayed">
-        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <source>The sound server did not play the recording: it was restarted while Kiv was running. Restart Kiv.</source>
         <translation>Äänipalvelu ei toistanut nauhoitusta: se on käynnistynyt uudelleen Kivin käynnistyttyä. Käynnistä Kiv uudelleen.</translation>
     </message>
     <message id="kiv-sound-unreached">
@@ -1499,8 +1499,8 @@
         <translation>pois</translation>
     </message>
     <message id="kiv-radios-instructions">
-        <source>Compare these with the phone&apos;s settings. A switch that is moved there moves here, too.</source>
-        <translation>Vertaa näitä puhelimen asetuksiin. Siellä käännetty kytkin kääntyy myös tässä.</translation>
+        <source>Compare these with the phone&apos;s settings. A switch that is moved there must move here, too.</source>
+        <translation>Vertaa näitä puhelimen asetuksiin. Siellä käännetyn kytkimen on käännyttävä myös tässä.</translation>
     </message>
     <message id="kiv-radios-hint">
         <source>Pass unlocks when the mode-control service has answered.</source>
@@ -2061,8 +2061,8 @@
         <translation>Tämän puhelimen asetukset eivät pyydä tätä testiä.</translation>
     </message>
     <message id="kiv-resistance-step-on">
-        <source>Measuring with the charger on: leave the phone alone</source>
-        <translation>Mitataan laturin kanssa: jätä puhelin rauhaan</translation>
+        <source>Measuring with the charger on: leave phone and charger alone</source>
+        <translation>Mitataan lataus päällä: älä koske puhelimeen äläkä laturiin</translation>
     </message>
     <message id="kiv-resistance-step-off">
         <source>Measuring with the charger off</source>
@@ -2425,9 +2425,9 @@
         <translation>Akku lämpeni arvoon %1.</translation>
     </message>
     <message id="kiv-run-in-end-restart">
-        <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
+        <source>The phone&apos;s start time was %1 at the beginning and %2 at the end: it was restarted, or its clock was set.</source>
         <extracomment>Two times at which the phone was started</extracomment>
-        <translation>Alussa puhelimen käynnistysaika oli %1 ja lopussa %2: se käynnistyi uudelleen tai sen kelloa siirrettiin.</translation>
+        <translation>Puhelimen käynnistysaika oli alussa %1 ja lopussa %2: puhelin käynnistyi uudelleen tai sen kelloa siirrettiin.</translation>
     </message>
     <message id="kiv-run-in-end-operator">
         <source>The operator ended it.</source>
@@ -2476,9 +2476,9 @@
         <translation>Älä pysähdy akun lämpötilan vuoksi</translation>
     </message>
     <message id="kiv-run-in-machine-start">
-        <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
+        <source>This phone was started on %1. A run-in that began earlier and left no result was ended by that start.</source>
         <extracomment>A date and time</extracomment>
-        <translation>Tämä puhelin käynnistettiin %1. Jos sisäänajo päättyi ilman tulosta, syy on sen jälkeinen käynnistys.</translation>
+        <translation>Tämä puhelin käynnistettiin %1. Jos sitä ennen alkanut sisäänajo jäi ilman tulosta, tämä käynnistys päätti sen.</translation>
     </message>
     <message id="kiv-run-in-total">
         <source>Loops: %1, time: %2</source>
@@ -2617,7 +2617,7 @@
         <translation>Se pysyy paikallaan</translation>
     </message>
     <message id="kiv-camera-light">
-        <source>Does the light beside the camera burn?</source>
+        <source>Is the light beside the camera on?</source>
         <translation>Palaako kameran vieressä valo?</translation>
     </message>
     <message id="kiv-camera-stains">

@@ -575,8 +575,8 @@
         <translation>טמפרטורה</translation>
     </message>
     <message id="kiv-sensor-instructions">
-        <source>Calibrate a sensor, take back its last calibration, or return to the factory&apos;s. Then judge by its values.</source>
-        <translation>כיילו חיישן, בטלו את הכיול האחרון שלו או חזרו לערכי המפעל. אחר כך שפטו לפי ערכיו.</translation>
+        <source>Calibrate a sensor, load its stored calibration, or return to the factory&apos;s. Then judge by its values.</source>
+        <translation>כיילו חיישן, טענו את הכיול השמור שלו או חזרו לערכי המפעל. אחר כך שפטו לפי ערכיו.</translation>
     </message>
     <message id="kiv-sensor-hint">
         <source>Pass unlocks when a sensor has been calibrated.</source>
@@ -607,8 +607,8 @@
         <translation>כיול</translation>
     </message>
     <message id="kiv-sensor-restore">
-        <source>Take back</source>
-        <translation>ביטול</translation>
+        <source>Stored values</source>
+        <translation>ערכים שמורים</translation>
     </message>
     <message id="kiv-sensor-reset">
         <source>Factory values</source>
@@ -1083,12 +1083,12 @@
         <translation>הטלפון נטען: המתינו</translation>
     </message>
     <message id="kiv-charging-step-off">
-        <source>Charger switched off: charging stops</source>
-        <translation>הטעינה כובתה: הטעינה נפסקת</translation>
+        <source>Kiv switches the charger off: charging stops</source>
+        <translation>‏Kiv מכבה את הטעינה: היא נפסקת</translation>
     </message>
     <message id="kiv-charging-step-again">
-        <source>Charger switched on: charging resumes</source>
-        <translation>הטעינה הודלקה: הטעינה מתחדשת</translation>
+        <source>Kiv switches the charger on: charging resumes</source>
+        <translation>‏Kiv מדליק את הטעינה: היא מתחדשת</translation>
     </message>
     <message id="kiv-charging-current-on">
         <source>Current, charger on</source>
@@ -1341,8 +1341,8 @@
         <translation>תדר</translation>
     </message>
     <message id="kiv-fm-radio-loop">
-        <source>Radio heard through the headset</source>
-        <translation>הרדיו נשמע באוזניות</translation>
+        <source>Radio switched to the headset</source>
+        <translation>הרדיו מנותב לאוזניות</translation>
     </message>
     <message id="kiv-fm-radio-off">
         <source>Switch the radio off</source>
@@ -1357,8 +1357,8 @@
         <translation>לא היה אפשר להדליק את הרדיו: שירות ניתוב הקול אינו עונה או אינו מציע אותו.</translation>
     </message>
     <message id="kiv-microphone-unplayed">
-        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
-        <translation>שרת הקול לא השמיע את ההקלטה: הוא הופעל מחדש מאז ש־Kiv רץ. הפעילו מחדש את Kiv.</translation>
+        <source>The sound server did not play the recording: it was restarted while Kiv was running. Restart Kiv.</source>
+        <translation>שרת הקול לא השמיע את ההקלטה: הוא הופעל מחדש בזמן ש־Kiv פעל. הפעילו מחדש את Kiv.</translation>
     </message>
     <message id="kiv-sound-unreached">
         <source>The sound server does not answer. Try again once it runs. If that does not help, restart Kiv.</source>
@@ -1514,8 +1514,8 @@
         <translation>כבוי</translation>
     </message>
     <message id="kiv-radios-instructions">
-        <source>Compare these with the phone&apos;s settings. A switch that is moved there moves here, too.</source>
-        <translation>השוו להגדרות הטלפון. מתג שמוזז שם זז גם כאן.</translation>
+        <source>Compare these with the phone&apos;s settings. A switch that is moved there must move here, too.</source>
+        <translation>השוו להגדרות הטלפון. מתג שמוזז שם חייב לזוז גם כאן.</translation>
     </message>
     <message id="kiv-radios-hint">
         <source>Pass unlocks when the mode-control service has answered.</source>
@@ -2076,8 +2076,8 @@
         <translation>הגדרות הטלפון הזה אינן דורשות את הבדיקה.</translation>
     </message>
     <message id="kiv-resistance-step-on">
-        <source>Measuring with the charger on: leave the phone alone</source>
-        <translation>מודד כשהטעינה דולקת: אל תיגעו בטלפון</translation>
+        <source>Measuring with the charger on: leave phone and charger alone</source>
+        <translation>מודד כשהטעינה דולקת: אל תיגעו בטלפון ובמטען</translation>
     </message>
     <message id="kiv-resistance-step-off">
         <source>Measuring with the charger off</source>
@@ -2440,7 +2440,7 @@
         <translation>הסוללה הגיעה ל־⁨%1⁩.</translation>
     </message>
     <message id="kiv-run-in-end-restart">
-        <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
+        <source>The phone&apos;s start time was %1 at the beginning and %2 at the end: it was restarted, or its clock was set.</source>
         <extracomment>Two times at which the phone was started</extracomment>
         <translation>בתחילה היה זמן ההפעלה של הטלפון ⁨%1⁩ ובסוף ⁨%2⁩: הוא הופעל מחדש, או שהשעון שלו כוון.</translation>
     </message>
@@ -2491,9 +2491,9 @@
         <translation>לא לעצור בגלל חום הסוללה</translation>
     </message>
     <message id="kiv-run-in-machine-start">
-        <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
+        <source>This phone was started on %1. A run-in that began earlier and left no result was ended by that start.</source>
         <extracomment>A date and time</extracomment>
-        <translation>הטלפון הזה הופעל ב־⁨%1⁩. אם הרצה הסתיימה בלי תוצאה, הפעלה שאירעה מאז היא הסיבה.</translation>
+        <translation>הטלפון הזה הופעל ב־⁨%1⁩. הרצה שהתחילה לפני כן ולא השאירה תוצאה נקטעה בהפעלה הזאת.</translation>
     </message>
     <message id="kiv-run-in-total">
         <source>Loops: %1, time: %2</source>
@@ -2632,7 +2632,7 @@
         <translation>היא קפואה</translation>
     </message>
     <message id="kiv-camera-light">
-        <source>Does the light beside the camera burn?</source>
+        <source>Is the light beside the camera on?</source>
         <translation>האם האור שליד המצלמה דולק?</translation>
     </message>
     <message id="kiv-camera-stains">

@@ -575,8 +575,8 @@
         <translation>温度</translation>
     </message>
     <message id="kiv-sensor-instructions">
-        <source>Calibrate a sensor, take back its last calibration, or return to the factory&apos;s. Then judge by its values.</source>
-        <translation>校准一个传感器、撤销上次校准或恢复出厂值，然后根据其数值判定。</translation>
+        <source>Calibrate a sensor, load its stored calibration, or return to the factory&apos;s. Then judge by its values.</source>
+        <translation>校准一个传感器、载入已保存的校准值或恢复出厂值，然后根据其数值判定。</translation>
     </message>
     <message id="kiv-sensor-hint">
         <source>Pass unlocks when a sensor has been calibrated.</source>
@@ -607,8 +607,8 @@
         <translation>校准</translation>
     </message>
     <message id="kiv-sensor-restore">
-        <source>Take back</source>
-        <translation>撤销</translation>
+        <source>Stored values</source>
+        <translation>已保存值</translation>
     </message>
     <message id="kiv-sensor-reset">
         <source>Factory values</source>
@@ -1083,12 +1083,12 @@
         <translation>手机正在充电：请稍候</translation>
     </message>
     <message id="kiv-charging-step-off">
-        <source>Charger switched off: charging stops</source>
-        <translation>充电已关闭：充电停止</translation>
+        <source>Kiv switches the charger off: charging stops</source>
+        <translation>Kiv 关闭充电：充电停止</translation>
     </message>
     <message id="kiv-charging-step-again">
-        <source>Charger switched on: charging resumes</source>
-        <translation>充电已打开：充电恢复</translation>
+        <source>Kiv switches the charger on: charging resumes</source>
+        <translation>Kiv 打开充电：充电恢复</translation>
     </message>
     <message id="kiv-charging-current-on">
         <source>Current, charger on</source>
@@ -1341,8 +1341,8 @@
         <translation>频率</translation>
     </message>
     <message id="kiv-fm-radio-loop">
-        <source>Radio heard through the headset</source>
-        <translation>通过耳机收听收音机</translation>
+        <source>Radio switched to the headset</source>
+        <translation>收音机已接到耳机</translation>
     </message>
     <message id="kiv-fm-radio-off">
         <source>Switch the radio off</source>
@@ -1357,7 +1357,7 @@
         <translation>无法打开收音机：音频策略没有应答或不支持。</translation>
     </message>
     <message id="kiv-microphone-unplayed">
-        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <source>The sound server did not play the recording: it was restarted while Kiv was running. Restart Kiv.</source>
         <translation>音频服务没有播放录音：Kiv 运行期间它重新启动过。请重启 Kiv。</translation>
     </message>
     <message id="kiv-sound-unreached">
@@ -1514,7 +1514,7 @@
         <translation>关</translation>
     </message>
     <message id="kiv-radios-instructions">
-        <source>Compare these with the phone&apos;s settings. A switch that is moved there moves here, too.</source>
+        <source>Compare these with the phone&apos;s settings. A switch that is moved there must move here, too.</source>
         <translation>与手机的设置对照：在设置中拨动开关，这里也应随之变化。</translation>
     </message>
     <message id="kiv-radios-hint">
@@ -2076,8 +2076,8 @@
         <translation>本机的设置不要求此项测试。</translation>
     </message>
     <message id="kiv-resistance-step-on">
-        <source>Measuring with the charger on: leave the phone alone</source>
-        <translation>充电打开时测量：请勿操作手机</translation>
+        <source>Measuring with the charger on: leave phone and charger alone</source>
+        <translation>充电打开时测量：请勿动手机和充电器</translation>
     </message>
     <message id="kiv-resistance-step-off">
         <source>Measuring with the charger off</source>
@@ -2440,7 +2440,7 @@
         <translation>电池温度达到 %1。</translation>
     </message>
     <message id="kiv-run-in-end-restart">
-        <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
+        <source>The phone&apos;s start time was %1 at the beginning and %2 at the end: it was restarted, or its clock was set.</source>
         <extracomment>Two times at which the phone was started</extracomment>
         <translation>开始时手机的启动时间为 %1，结束时为 %2：手机曾重启，或时钟被调整。</translation>
     </message>
@@ -2491,9 +2491,9 @@
         <translation>不因电池温度停止</translation>
     </message>
     <message id="kiv-run-in-machine-start">
-        <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
+        <source>This phone was started on %1. A run-in that began earlier and left no result was ended by that start.</source>
         <extracomment>A date and time</extracomment>
-        <translation>本机启动于 %1。如果老化测试没有得出结果就结束了，原因就是其后的一次启动。</translation>
+        <translation>本机启动于 %1。在此之前开始且没有留下结果的老化测试，是被这次启动中断的。</translation>
     </message>
     <message id="kiv-run-in-total">
         <source>Loops: %1, time: %2</source>
@@ -2632,7 +2632,7 @@
         <translation>静止不动</translation>
     </message>
     <message id="kiv-camera-light">
-        <source>Does the light beside the camera burn?</source>
+        <source>Is the light beside the camera on?</source>
         <translation>摄像头旁边的灯亮着吗？</translation>
     </message>
     <message id="kiv-camera-stains">

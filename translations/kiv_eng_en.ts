@@ -287,7 +287,6 @@
     </message>
     <message id="kiv-battery-wear">
         <source>Capacity compared to new</source>
-        <oldsource>Capacity of its design</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-disclaimer-title">
@@ -316,7 +315,6 @@
     </message>
     <message id="kiv-home-question">
         <source>Which tests do you want to run?</source>
-        <oldsource>Which tests shall run?</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-mode-factory">
@@ -333,7 +331,6 @@
     </message>
     <message id="kiv-mode-run-in-detail">
         <source>Endurance tests for a new phone</source>
-        <oldsource>The tests that warm a new phone up</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-mode-all">
@@ -342,7 +339,6 @@
     </message>
     <message id="kiv-mode-all-detail">
         <source>Everything this phone has, one by one or in a row</source>
-        <oldsource>Everything that this phone has, singly or in a row</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-list-subtitle">
@@ -392,7 +388,6 @@
     </message>
     <message id="kiv-summary-overruled">
         <source>Overruled by the operator: %2. Measured: %1</source>
-        <oldsource>Overruled by the operator; measured: %1</oldsource>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -406,7 +401,6 @@
     </message>
     <message id="kiv-summary-retest">
         <source>Retest failed</source>
-        <oldsource>Retest the failed</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-summary-list">
@@ -436,7 +430,6 @@
     </message>
     <message id="kiv-page-missing-advice">
         <source>If this model is not meant to have it, choose Skip and say so.</source>
-        <oldsource>If the phone is meant to be without it, choose Not applicable.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-page-guided">
@@ -453,12 +446,10 @@
     </message>
     <message id="kiv-verdict-hold">
         <source>Hold Pass until it has filled up</source>
-        <oldsource>Hold Pass until it fills</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-working-probing">
         <source>Checking what this phone has</source>
-        <oldsource>Looking at what this phone has</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-step-done">
@@ -575,7 +566,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-sensor-instructions">
-        <source>Calibrate a sensor, take back its last calibration, or return to the factory&apos;s. Then judge by its values.</source>
+        <source>Calibrate a sensor, load its stored calibration, or return to the factory&apos;s. Then judge by its values.</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-sensor-hint">
@@ -607,7 +598,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-sensor-restore">
-        <source>Take back</source>
+        <source>Stored values</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-sensor-reset">
@@ -673,7 +664,6 @@
     </message>
     <message id="kiv-battery-missing">
         <source>No battery was found.</source>
-        <oldsource>This phone shows no battery to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-ecompass-good">
@@ -690,7 +680,6 @@
     </message>
     <message id="kiv-ecompass-missing">
         <source>No compass was found.</source>
-        <oldsource>This phone shows no compass to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-ecompass-heading">
@@ -807,7 +796,6 @@
     </message>
     <message id="kiv-headset-missing">
         <source>No headset socket was found.</source>
-        <oldsource>This phone shows no headset socket to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-headset-step-empty">
@@ -846,7 +834,6 @@
     </message>
     <message id="kiv-headset-buttons-missing">
         <source>No headset buttons were found.</source>
-        <oldsource>This phone shows no headset buttons to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-headset-buttons-pressed">
@@ -896,7 +883,6 @@
     </message>
     <message id="kiv-light-missing">
         <source>No light sensor was found.</source>
-        <oldsource>This phone shows no light sensor to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-light-now">
@@ -950,7 +936,6 @@
     </message>
     <message id="kiv-prox-missing">
         <source>No proximity sensor was found.</source>
-        <oldsource>This phone shows no proximity sensor to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-prox-step-near">
@@ -1055,7 +1040,6 @@
     </message>
     <message id="kiv-charging-missing">
         <source>No battery was found, so charging cannot be observed.</source>
-        <oldsource>This phone shows no battery to the system, so charging cannot be seen.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-charging-switching-off">
@@ -1083,11 +1067,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-charging-step-off">
-        <source>Charger switched off: charging stops</source>
+        <source>Kiv switches the charger off: charging stops</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-charging-step-again">
-        <source>Charger switched on: charging resumes</source>
+        <source>Kiv switches the charger on: charging resumes</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-charging-current-on">
@@ -1108,7 +1092,6 @@
     </message>
     <message id="kiv-vibrator-good">
         <source>The operator felt as many pulses as were given.</source>
-        <oldsource>The operator felt the pulses that were given: %1</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-vibrator-instructions">
@@ -1121,7 +1104,6 @@
     </message>
     <message id="kiv-vibrator-missing">
         <source>No vibrator was found.</source>
-        <oldsource>This phone offers no vibrator to the system.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-vibrator-question">
@@ -1264,7 +1246,6 @@
     </message>
     <message id="kiv-microphone-missing">
         <source>The sound server has no built-in microphone, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-microphone-hint">
@@ -1293,7 +1274,6 @@
     </message>
     <message id="kiv-sound-missing">
         <source>The sound server has no main output, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-sound-hint">
@@ -1341,7 +1321,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-fm-radio-loop">
-        <source>Radio heard through the headset</source>
+        <source>Radio switched to the headset</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-fm-radio-off">
@@ -1357,7 +1337,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-microphone-unplayed">
-        <source>The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv.</source>
+        <source>The sound server did not play the recording: it was restarted while Kiv was running. Restart Kiv.</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-sound-unreached">
@@ -1514,7 +1494,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-radios-instructions">
-        <source>Compare these with the phone&apos;s settings. A switch that is moved there moves here, too.</source>
+        <source>Compare these with the phone&apos;s settings. A switch that is moved there must move here, too.</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-radios-hint">
@@ -2076,7 +2056,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-resistance-step-on">
-        <source>Measuring with the charger on: leave the phone alone</source>
+        <source>Measuring with the charger on: leave phone and charger alone</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-resistance-step-off">
@@ -2105,7 +2085,6 @@
     </message>
     <message id="kiv-keylight-instructions">
         <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
-        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-keylight-note">
@@ -2440,7 +2419,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-run-in-end-restart">
-        <source>The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set.</source>
+        <source>The phone&apos;s start time was %1 at the beginning and %2 at the end: it was restarted, or its clock was set.</source>
         <extracomment>Two times at which the phone was started</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -2460,7 +2439,6 @@
     </message>
     <message id="kiv-run-in-intro">
         <source>Hours: %1. Meanwhile the phone repeats these tests and needs nobody:</source>
-        <oldsource>%2 tests run over and over for %1 hours. The phone needs nobody meanwhile.</oldsource>
         <extracomment>A number of hours</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -2491,7 +2469,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-run-in-machine-start">
-        <source>This phone was started on %1. If a run-in ended without its result, a start since then is the reason.</source>
+        <source>This phone was started on %1. A run-in that began earlier and left no result was ended by that start.</source>
         <extracomment>A date and time</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -2632,7 +2610,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-camera-light">
-        <source>Does the light beside the camera burn?</source>
+        <source>Is the light beside the camera on?</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-camera-stains">

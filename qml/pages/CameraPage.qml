@@ -193,7 +193,7 @@ TestPage {
         objectName: "light"
         width: parent.width
         rounds: 3
-        //% "Does the light beside the camera burn?"
+        //% "Is the light beside the camera on?"
         question: qsTrId("kiv-camera-light")
         choices: [
             { value: "on", text: qsTrId("kiv-checks-yes") },

@@ -57,7 +57,7 @@ TestPage {
         // The server's own list, which has Kiv's stream in it as long as the recorder plays. Silent effects are paused in it.
         heard = streams.item.anyPlays();
         if (!heard)
-            //% "The sound server did not play the recording: it has been started anew since Kiv runs. Restart Kiv."
+            //% "The sound server did not play the recording: it was restarted while Kiv was running. Restart Kiv."
             trouble = qsTrId("kiv-microphone-unplayed");
         streams.active = false;
         recorder.stop();

@@ -19,7 +19,7 @@ TestPage {
                                                  : qsTrId("kiv-switch-off");
     }
 
-    //% "Compare these with the phone's settings. A switch that is moved there moves here, too."
+    //% "Compare these with the phone's settings. A switch that is moved there must move here, too."
     instructions: qsTrId("kiv-radios-instructions")
     measurements: [service, nfcSwitch, fmSwitch, preference]
     evidence: watch.standing === "answers" && nfc !== undefined

@@ -40,7 +40,7 @@ TestPage {
     property var offered: []
     property bool used: false
 
-    //% "Calibrate a sensor, take back its last calibration, or return to the factory's. Then judge by its values."
+    //% "Calibrate a sensor, load its stored calibration, or return to the factory's. Then judge by its values."
     instructions: qsTrId("kiv-sensor-instructions")
     evidence: used
     //% "Pass unlocks when a sensor has been calibrated."
@@ -118,7 +118,7 @@ TestPage {
                     width: (parent.width - parent.spacing) / 2
                     objectName: "restore-" + modelData.sensor
                     enabled: calibration.enabled
-                    //% "Take back"
+                    //% "Stored values"
                     text: qsTrId("kiv-sensor-restore")
                     onClicked: card.run("restore")
                 }

@@ -170,7 +170,7 @@ TestPage {
         visible: page.missing === ""
         steps: [
             { text: qsTrId("kiv-charging-step-plug"), done: page.phase !== "plug" },
-            //% "Measuring with the charger on: leave the phone alone"
+            //% "Measuring with the charger on: leave phone and charger alone"
             { text: qsTrId("kiv-resistance-step-on"), done: ["off", "again", "done"].indexOf(page.phase) >= 0 },
             //% "Measuring with the charger off"
             { text: qsTrId("kiv-resistance-step-off"), done: ["again", "done"].indexOf(page.phase) >= 0 },

@@ -66,7 +66,7 @@ TestPage {
     Measurement {
         id: loop
         property bool seen: false
-        //% "Radio heard through the headset"
+        //% "Radio switched to the headset"
         name: qsTrId("kiv-fm-radio-loop")
         value: route.fmRadio
     }

@@ -138,9 +138,9 @@ TestPage {
             { text: qsTrId("kiv-charging-step-plug"), done: page.phase !== "plug" },
             //% "The phone charges: wait"
             { text: qsTrId("kiv-charging-step-on"), done: ["off", "again", "done"].indexOf(page.phase) >= 0 },
-            //% "Charger switched off: charging stops"
+            //% "Kiv switches the charger off: charging stops"
             { text: qsTrId("kiv-charging-step-off"), done: ["again", "done"].indexOf(page.phase) >= 0 },
-            //% "Charger switched on: charging resumes"
+            //% "Kiv switches the charger on: charging resumes"
             { text: qsTrId("kiv-charging-step-again"), done: page.phase === "done" }
         ]
     }

@@ -97,7 +97,7 @@ Item {
             return qsTrId("kiv-run-in-end-temperature").arg(runIn.temperature.text(runIn.temperature.maximum));
         case "restart":
             //: Two times at which the phone was started
-            //% "The phone was started at %1 when it began and at %2 when it ended: it was restarted, or its clock was set."
+            //% "The phone's start time was %1 at the beginning and %2 at the end: it was restarted, or its clock was set."
             return qsTrId("kiv-run-in-end-restart").arg(timeText(runIn.machineStart))
                                                    .arg(timeText(runIn.machineStartNow));
         }
@@ -256,7 +256,7 @@ Item {
                 color: Theme.muted
                 font.pixelSize: Theme.small
                 //: A date and time
-                //% "This phone was started on %1. If a run-in ended without its result, a start since then is the reason."
+                //% "This phone was started on %1. A run-in that began earlier and left no result was ended by that start."
                 text: qsTrId("kiv-run-in-machine-start").arg(screen.timeText(runIn.uptime.machineStart))
             }
         }
