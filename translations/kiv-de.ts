@@ -287,7 +287,6 @@
     </message>
     <message id="kiv-battery-wear">
         <source>Capacity compared to new</source>
-        <oldsource>Capacity of its design</oldsource>
         <translation>Kapazität im Vergleich zu neu</translation>
     </message>
     <message id="kiv-disclaimer-title">
@@ -316,7 +315,6 @@
     </message>
     <message id="kiv-home-question">
         <source>Which tests do you want to run?</source>
-        <oldsource>Which tests shall run?</oldsource>
         <translation>Welche Tests möchten Sie ausführen?</translation>
     </message>
     <message id="kiv-mode-factory">
@@ -333,7 +331,6 @@
     </message>
     <message id="kiv-mode-run-in-detail">
         <source>Endurance tests for a new phone</source>
-        <oldsource>The tests that warm a new phone up</oldsource>
         <translation>Belastungstests für ein neues Telefon</translation>
     </message>
     <message id="kiv-mode-all">
@@ -342,7 +339,6 @@
     </message>
     <message id="kiv-mode-all-detail">
         <source>Everything this phone has, one by one or in a row</source>
-        <oldsource>Everything that this phone has, singly or in a row</oldsource>
         <translation>Alles, was dieses Telefon hat, einzeln oder nacheinander</translation>
     </message>
     <message id="kiv-list-subtitle">
@@ -360,7 +356,7 @@
     </message>
     <message id="kiv-summary">
         <source>Summary</source>
-        <translation>Ergebnis</translation>
+        <translation>Übersicht</translation>
     </message>
     <message id="kiv-list-continue">
         <source>Go on, %1 left</source>
@@ -392,7 +388,6 @@
     </message>
     <message id="kiv-summary-overruled">
         <source>Overruled by the operator: %2. Measured: %1</source>
-        <oldsource>Overruled by the operator; measured: %1</oldsource>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
         <translation>Vom Prüfer überstimmt: %2. Gemessen: %1</translation>
     </message>
@@ -406,7 +401,6 @@
     </message>
     <message id="kiv-summary-retest">
         <source>Retest failed</source>
-        <oldsource>Retest the failed</oldsource>
         <translation>Fehler erneut prüfen</translation>
     </message>
     <message id="kiv-summary-list">
@@ -436,7 +430,6 @@
     </message>
     <message id="kiv-page-missing-advice">
         <source>If this model is not meant to have it, choose Skip and say so.</source>
-        <oldsource>If the phone is meant to be without it, choose Not applicable.</oldsource>
         <translation>Wenn dieses Modell ohne dieses Teil gebaut wird, wählen Sie „Auslassen“ und geben Sie das an.</translation>
     </message>
     <message id="kiv-page-guided">
@@ -453,12 +446,10 @@
     </message>
     <message id="kiv-verdict-hold">
         <source>Hold Pass until it has filled up</source>
-        <oldsource>Hold Pass until it fills</oldsource>
         <translation>„Bestanden“ gedrückt halten, bis es voll ist</translation>
     </message>
     <message id="kiv-working-probing">
         <source>Checking what this phone has</source>
-        <oldsource>Looking at what this phone has</oldsource>
         <translation>Es wird geprüft, was dieses Telefon hat</translation>
     </message>
     <message id="kiv-step-done">
@@ -673,7 +664,6 @@
     </message>
     <message id="kiv-battery-missing">
         <source>No battery was found.</source>
-        <oldsource>This phone shows no battery to the system.</oldsource>
         <translation>Es wurde kein Akku gefunden.</translation>
     </message>
     <message id="kiv-ecompass-good">
@@ -690,7 +680,6 @@
     </message>
     <message id="kiv-ecompass-missing">
         <source>No compass was found.</source>
-        <oldsource>This phone shows no compass to the system.</oldsource>
         <translation>Es wurde kein Kompass gefunden.</translation>
     </message>
     <message id="kiv-ecompass-heading">
@@ -807,7 +796,6 @@
     </message>
     <message id="kiv-headset-missing">
         <source>No headset socket was found.</source>
-        <oldsource>This phone shows no headset socket to the system.</oldsource>
         <translation>Es wurde keine Headset-Buchse gefunden.</translation>
     </message>
     <message id="kiv-headset-step-empty">
@@ -846,7 +834,6 @@
     </message>
     <message id="kiv-headset-buttons-missing">
         <source>No headset buttons were found.</source>
-        <oldsource>This phone shows no headset buttons to the system.</oldsource>
         <translation>Es wurden keine Headset-Tasten gefunden.</translation>
     </message>
     <message id="kiv-headset-buttons-pressed">
@@ -884,7 +871,7 @@
     </message>
     <message id="kiv-light-good">
         <source>The sensor told dark from bright.</source>
-        <translation>Der Sensor hat Dunkel von Hell unterschieden.</translation>
+        <translation>Der Sensor hat Hell und Dunkel unterschieden.</translation>
     </message>
     <message id="kiv-light-instructions">
         <source>Cover the sensor above the display with a finger, then hold it to the light.</source>
@@ -892,11 +879,10 @@
     </message>
     <message id="kiv-light-hint">
         <source>Pass unlocks when the sensor told dark from bright.</source>
-        <translation>„Bestanden“ ist gesperrt, bis der Sensor Dunkel von Hell unterschieden hat.</translation>
+        <translation>„Bestanden“ ist gesperrt, bis der Sensor Hell und Dunkel unterschieden hat.</translation>
     </message>
     <message id="kiv-light-missing">
         <source>No light sensor was found.</source>
-        <oldsource>This phone shows no light sensor to the system.</oldsource>
         <translation>Es wurde kein Lichtsensor gefunden.</translation>
     </message>
     <message id="kiv-light-now">
@@ -950,7 +936,6 @@
     </message>
     <message id="kiv-prox-missing">
         <source>No proximity sensor was found.</source>
-        <oldsource>This phone shows no proximity sensor to the system.</oldsource>
         <translation>Es wurde kein Näherungssensor gefunden.</translation>
     </message>
     <message id="kiv-prox-step-near">
@@ -1019,7 +1004,7 @@
     </message>
     <message id="kiv-sd-card-mount-failed">
         <source>A card could not be mounted: it may be damaged or have no file system.</source>
-        <translation>Eine Karte ließ sich nicht einhängen: Sie ist beschädigt oder hat kein Dateisystem.</translation>
+        <translation>Eine Karte ließ sich nicht einhängen: Vielleicht ist sie beschädigt oder hat kein Dateisystem.</translation>
     </message>
     <message id="kiv-sd-card-state">
         <source>Card</source>
@@ -1055,7 +1040,6 @@
     </message>
     <message id="kiv-charging-missing">
         <source>No battery was found, so charging cannot be observed.</source>
-        <oldsource>This phone shows no battery to the system, so charging cannot be seen.</oldsource>
         <translation>Es wurde kein Akku gefunden; das Laden ist nicht zu beobachten.</translation>
     </message>
     <message id="kiv-charging-switching-off">
@@ -1072,7 +1056,7 @@
     </message>
     <message id="kiv-charging-hint">
         <source>Pass unlocks when the charger has been switched off and on.</source>
-        <translation>„Bestanden“ ist gesperrt, bis das Laden ab- und eingeschaltet wurde.</translation>
+        <translation>„Bestanden“ ist gesperrt, bis das Laden ab- und wieder eingeschaltet wurde.</translation>
     </message>
     <message id="kiv-charging-step-plug">
         <source>Plug a charger into the USB socket</source>
@@ -1108,7 +1092,6 @@
     </message>
     <message id="kiv-vibrator-good">
         <source>The operator felt as many pulses as were given.</source>
-        <oldsource>The operator felt the pulses that were given: %1</oldsource>
         <translation>Der Prüfer hat so viele Stöße gespürt, wie gegeben wurden.</translation>
     </message>
     <message id="kiv-vibrator-instructions">
@@ -1121,7 +1104,6 @@
     </message>
     <message id="kiv-vibrator-missing">
         <source>No vibrator was found.</source>
-        <oldsource>This phone offers no vibrator to the system.</oldsource>
         <translation>Es wurde kein Vibrationsmotor gefunden.</translation>
     </message>
     <message id="kiv-vibrator-question">
@@ -1147,7 +1129,7 @@
     </message>
     <message id="kiv-battery-discharging">
         <source>Discharging</source>
-        <translation>Entlädt</translation>
+        <translation>Entlädt sich</translation>
     </message>
     <message id="kiv-battery-not-charging">
         <source>Not charging</source>
@@ -1224,7 +1206,7 @@
     </message>
     <message id="kiv-headset-music-instructions">
         <source>Play each sound and listen to the headset: it must come from the side that its button names.</source>
-        <translation>Spielen Sie jeden Ton und hören Sie auf das Headset: Er muss von der Seite kommen, die sein Knopf nennt.</translation>
+        <translation>Spielen Sie jeden Ton und hören Sie ihn im Headset: Er muss von der Seite kommen, die sein Knopf nennt.</translation>
     </message>
     <message id="kiv-headset-music-instructions-plug">
         <source>Plug a headset in.</source>
@@ -1248,7 +1230,7 @@
     </message>
     <message id="kiv-speaker-music-instructions">
         <source>Play the tune and listen to the loudspeaker: every tone must be clear, without rattling.</source>
-        <translation>Spielen Sie die Melodie und hören Sie auf den Lautsprecher: Jeder Ton muss klar sein, ohne Schnarren.</translation>
+        <translation>Spielen Sie die Melodie und achten Sie auf den Lautsprecher: Jeder Ton muss klar sein, ohne Schnarren.</translation>
     </message>
     <message id="kiv-receiver-instructions">
         <source>Play the tune and hold the phone to your ear: it must come from the earpiece only.</source>
@@ -1264,7 +1246,6 @@
     </message>
     <message id="kiv-microphone-missing">
         <source>The sound server has no built-in microphone, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
         <translation>Der Tondienst hat kein eingebautes Mikrofon, oder sein Werkzeug antwortet nicht.</translation>
     </message>
     <message id="kiv-microphone-hint">
@@ -1293,7 +1274,6 @@
     </message>
     <message id="kiv-sound-missing">
         <source>The sound server has no main output, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
         <translation>Der Tondienst hat keinen Hauptausgang, oder sein Werkzeug antwortet nicht.</translation>
     </message>
     <message id="kiv-sound-hint">
@@ -1386,7 +1366,7 @@
     </message>
     <message id="kiv-side-none">
         <source>Neither, or I cannot tell</source>
-        <translation>Weder noch, oder nicht zu hören</translation>
+        <translation>Weder noch, oder nicht zu erkennen</translation>
     </message>
     <message id="kiv-sides-wrong">
         <source>A tone played on the side &quot;%1&quot; was heard as &quot;%2&quot;</source>
@@ -1439,7 +1419,7 @@
     </message>
     <message id="kiv-gps-sky">
         <source>Places of the satellites in the sky</source>
-        <translation>Orte der Satelliten am Himmel</translation>
+        <translation>Positionen der Satelliten am Himmel</translation>
     </message>
     <message id="kiv-gps-north">
         <source>N</source>
@@ -1471,7 +1451,7 @@
     </message>
     <message id="kiv-bluetooth-no-radio">
         <source>No Bluetooth radio was found.</source>
-        <translation>Es wurde kein Bluetooth-Funkteil gefunden.</translation>
+        <translation>Es wurde kein Bluetooth-Funkmodul gefunden.</translation>
     </message>
     <message id="kiv-bluetooth-no-service">
         <source>The Bluetooth service is in trouble or not there.</source>
@@ -1564,23 +1544,23 @@
     </message>
     <message id="kiv-bluetooth-working">
         <source>Asking for the Bluetooth radio</source>
-        <translation>Das Bluetooth-Funkteil wird abgefragt</translation>
+        <translation>Das Bluetooth-Funkmodul wird abgefragt</translation>
     </message>
     <message id="kiv-bluetooth-good">
         <source>The address is in order, and the radio found a device: %1</source>
-        <translation>Die Adresse ist in Ordnung, und das Funkteil hat ein Gerät gefunden: %1</translation>
+        <translation>Die Adresse ist in Ordnung, und das Funkmodul hat ein Gerät gefunden: %1</translation>
     </message>
     <message id="kiv-bluetooth-instructions-blind">
         <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds devices.</source>
-        <translation>Die Adresse wird mit ihrem Muster verglichen. Danach in den Einstellungen des Telefons nachsehen, ob es Geräte findet.</translation>
+        <translation>Die Adresse wird mit ihrem Muster verglichen. Sehen Sie danach in den Einstellungen des Telefons nach, ob es Geräte findet.</translation>
     </message>
     <message id="kiv-bluetooth-instructions">
         <source>Put a device nearby that can be found, such as a headset that is being paired.</source>
-        <translation>Ein Gerät in die Nähe legen, das sich finden lässt, etwa ein Headset im Kopplungsmodus.</translation>
+        <translation>Legen Sie ein Gerät in die Nähe, das sich finden lässt, etwa ein Headset im Kopplungsmodus.</translation>
     </message>
     <message id="kiv-bluetooth-hint">
         <source>Pass unlocks when the address is in order and the radio has searched.</source>
-        <translation>„Bestanden“ ist gesperrt, bis die Adresse in Ordnung ist und das Funkteil gesucht hat.</translation>
+        <translation>„Bestanden“ ist gesperrt, bis die Adresse in Ordnung ist und das Funkmodul gesucht hat.</translation>
     </message>
     <message id="kiv-bluetooth-missing">
         <source>This phone has no Bluetooth.</source>
@@ -1588,11 +1568,11 @@
     </message>
     <message id="kiv-radio-blind">
         <source>This phone&apos;s system does not tell anything about the radio.</source>
-        <translation>Das System dieses Telefons sagt nichts über das Funkteil.</translation>
+        <translation>Das System dieses Telefons sagt nichts über das Funkmodul.</translation>
     </message>
     <message id="kiv-bluetooth-nobody">
         <source>The radio searched, but no device answered.</source>
-        <translation>Das Funkteil hat gesucht, aber kein Gerät hat geantwortet.</translation>
+        <translation>Das Funkmodul hat gesucht, aber kein Gerät hat geantwortet.</translation>
     </message>
     <message id="kiv-bluetooth-again">
         <source>Search again</source>
@@ -1604,7 +1584,7 @@
     </message>
     <message id="kiv-radio-found">
         <source>Radio found</source>
-        <translation>Funkteil gefunden</translation>
+        <translation>Funkmodul gefunden</translation>
     </message>
     <message id="kiv-bluetooth-devices">
         <source>Devices found</source>
@@ -1637,7 +1617,7 @@
     </message>
     <message id="kiv-gps-instructions">
         <source>Go outdoors or to a window. The first satellite may take some minutes.</source>
-        <translation>Ins Freie oder an ein Fenster gehen. Der erste Satellit kann einige Minuten dauern.</translation>
+        <translation>Gehen Sie ins Freie oder an ein Fenster. Bis zum ersten Satelliten kann es einige Minuten dauern.</translation>
     </message>
     <message id="kiv-gps-hint-position">
         <source>Pass unlocks when the positioning service knows the position.</source>
@@ -1709,7 +1689,7 @@
     </message>
     <message id="kiv-sim-instructions-blind">
         <source>See in the phone&apos;s settings whether it knows its SIM card.</source>
-        <translation>In den Einstellungen des Telefons nachsehen, ob es seine SIM-Karte kennt.</translation>
+        <translation>Sehen Sie in den Einstellungen des Telefons nach, ob es seine SIM-Karte kennt.</translation>
     </message>
     <message id="kiv-sim-instructions">
         <source>Every SIM slot needs a card. One that is locked has to be unlocked first.</source>
@@ -1725,7 +1705,7 @@
     </message>
     <message id="kiv-sim-cardless">
         <source>A SIM card is not there, is locked or cannot be read. Look after it, then ask again.</source>
-        <translation>Eine SIM-Karte fehlt, ist gesperrt oder nicht lesbar. Nachsehen und dann noch einmal fragen.</translation>
+        <translation>Eine SIM-Karte fehlt, ist gesperrt oder nicht lesbar. Sehen Sie nach und fragen Sie dann noch einmal.</translation>
     </message>
     <message id="kiv-sim-again">
         <source>Ask again</source>
@@ -1758,7 +1738,7 @@
     </message>
     <message id="kiv-sim-cards">
         <source>SIM cards read</source>
-        <translation>Modems</translation>
+        <translation>Gelesene SIM-Karten</translation>
     </message>
     <message id="kiv-usb-otg-good">
         <source>A drive was seen to come and go.</source>
@@ -1802,19 +1782,19 @@
     </message>
     <message id="kiv-wifi-good">
         <source>The address is in order, and the radio is connected to a network.</source>
-        <translation>Die Adresse ist in Ordnung, und das Funkteil ist mit einem Netz verbunden.</translation>
+        <translation>Die Adresse ist in Ordnung, und das Funkmodul ist mit einem Netz verbunden.</translation>
     </message>
     <message id="kiv-wifi-instructions-blind">
         <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds networks.</source>
-        <translation>Die Adresse wird mit ihrem Muster verglichen. Danach in den Einstellungen des Telefons nachsehen, ob es Netze findet.</translation>
+        <translation>Die Adresse wird mit ihrem Muster verglichen. Sehen Sie danach in den Einstellungen des Telefons nach, ob es Netze findet.</translation>
     </message>
     <message id="kiv-wifi-instructions">
         <source>Switch Wi-Fi on and connect the phone to a network: the test passes by itself.</source>
-        <translation>WLAN einschalten und das Telefon mit einem Netz verbinden. Der Test ist dann von selbst bestanden.</translation>
+        <translation>Schalten Sie WLAN ein und verbinden Sie das Telefon mit einem Netz: Der Test ist dann von selbst bestanden.</translation>
     </message>
     <message id="kiv-wifi-hint">
         <source>Pass unlocks when the address is in order and the radio was found.</source>
-        <translation>„Bestanden“ ist gesperrt, bis die Adresse in Ordnung ist und das Funkteil gefunden wurde.</translation>
+        <translation>„Bestanden“ ist gesperrt, bis die Adresse in Ordnung ist und das Funkmodul gefunden wurde.</translation>
     </message>
     <message id="kiv-wifi-missing">
         <source>This phone has no Wi-Fi.</source>
@@ -1822,7 +1802,7 @@
     </message>
     <message id="kiv-wifi-unconnected">
         <source>The radio is there, but not connected. Without a network in reach, judge by the networks that the settings list.</source>
-        <translation>Das Funkteil ist da, aber nicht verbunden. Ohne ein erreichbares Netz nach den Netzen urteilen, die in den Einstellungen stehen.</translation>
+        <translation>Das Funkmodul ist da, aber nicht verbunden. Ist kein Netz erreichbar, urteilen Sie nach den Netzen, die in den Einstellungen stehen.</translation>
     </message>
     <message id="kiv-wifi-connection">
         <source>Connection</source>
@@ -1917,7 +1897,7 @@
     </message>
     <message id="kiv-data-note">
         <source>Kiv cannot tell over which radio a page comes. Where the phone has two SIM cards, try each.</source>
-        <translation>Kiv erkennt nicht, über welchen Funk eine Seite kommt. Bei zwei SIM-Karten versuchen Sie es mit jeder.</translation>
+        <translation>Kiv erkennt nicht, über welche Verbindung eine Seite kommt. Bei zwei SIM-Karten versuchen Sie es mit jeder.</translation>
     </message>
     <message id="kiv-data-good">
         <source>The operator loaded a web page over mobile data.</source>
@@ -2037,15 +2017,15 @@
     </message>
     <message id="kiv-suspend-missing">
         <source>The mode-control service does not answer, so nobody knows whether the phone has slept.</source>
-        <translation>Der Modusdienst antwortet nicht; niemand weiß also, ob das Telefon geschlafen hat.</translation>
+        <translation>Der Mode-Control-Dienst antwortet nicht; niemand weiß also, ob das Telefon geschlafen hat.</translation>
     </message>
     <message id="kiv-suspend-step-sleep">
         <source>Let the phone sleep</source>
-        <translation>Lassen Sie das Telefon schlafen</translation>
+        <translation>Das Telefon schlafen lassen</translation>
     </message>
     <message id="kiv-suspend-step-wake">
         <source>Wake it</source>
-        <translation>Wecken Sie es</translation>
+        <translation>Es wecken</translation>
     </message>
     <message id="kiv-suspend-note">
         <source>A phone that charges or that a computer is connected to stays awake behind its dark panel.</source>
@@ -2081,19 +2061,19 @@
     </message>
     <message id="kiv-resistance-step-off">
         <source>Measuring with the charger off</source>
-        <translation>Messung ohne Ladestrom</translation>
+        <translation>Messung bei abgeschaltetem Laden</translation>
     </message>
     <message id="kiv-resistance-step-again">
         <source>Measuring with the charger on again</source>
-        <translation>Erneute Messung mit Ladegerät</translation>
+        <translation>Messung bei wieder eingeschaltetem Laden</translation>
     </message>
     <message id="kiv-resistance-voltage-on">
         <source>Voltage, charger on</source>
-        <translation>Spannung, Ladegerät an</translation>
+        <translation>Spannung, Laden an</translation>
     </message>
     <message id="kiv-resistance-voltage-off">
         <source>Voltage, charger off</source>
-        <translation>Spannung, Ladegerät aus</translation>
+        <translation>Spannung, Laden aus</translation>
     </message>
     <message id="kiv-resistance-step">
         <source>Step of the current</source>
@@ -2105,7 +2085,6 @@
     </message>
     <message id="kiv-keylight-instructions">
         <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
-        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
         <translation>Sehen Sie auf die Tasten neben dem Bildschirm. Haben sie kein Licht, wählen Sie „Auslassen“.</translation>
     </message>
     <message id="kiv-keylight-note">
@@ -2114,7 +2093,7 @@
     </message>
     <message id="kiv-keylight-step-touch">
         <source>Touch the field below</source>
-        <translation>Berühren Sie das Feld unten</translation>
+        <translation>Das Feld unten berühren</translation>
     </message>
     <message id="kiv-keylight-step-rest">
         <source>Keep your hands off: %1 s</source>
@@ -2238,7 +2217,7 @@
     </message>
     <message id="kiv-backlight-instructions">
         <source>Look at the white panel: is the light even up to the edges? Tap, and watch whether it becomes brighter or darker.</source>
-        <translation>Sehen Sie auf das Weiß: Ist das Licht bis an die Ränder gleichmäßig? Tippen Sie und achten Sie darauf, ob es heller oder dunkler wird.</translation>
+        <translation>Sehen Sie auf den weißen Bildschirm: Ist das Licht bis an die Ränder gleichmäßig? Tippen Sie und achten Sie darauf, ob es heller oder dunkler wird.</translation>
     </message>
     <message id="kiv-backlight-note">
         <source>Kiv cannot change the backlight. It is the picture that becomes brighter or darker: what it shows is that the panel is lit and that you looked.</source>
@@ -2246,7 +2225,7 @@
     </message>
     <message id="kiv-backlight-question">
         <source>What has the panel become?</source>
-        <translation>Was ist der Bildschirm geworden?</translation>
+        <translation>Wie ist der Bildschirm geworden?</translation>
     </message>
     <message id="kiv-backlight-brighter">
         <source>Brighter</source>
@@ -2306,11 +2285,11 @@
     </message>
     <message id="kiv-led-step-colour">
         <source>Say what the light does</source>
-        <translation>Sagen Sie, was die Leuchte tut</translation>
+        <translation>Angeben, was die Leuchte tut</translation>
     </message>
     <message id="kiv-led-step-unplug">
         <source>Unplug the charger</source>
-        <translation>Ziehen Sie das Ladegerät ab</translation>
+        <translation>Das Ladegerät abziehen</translation>
     </message>
     <message id="kiv-led-plugged">
         <source>The charger is plugged in</source>
@@ -2354,7 +2333,7 @@
     </message>
     <message id="kiv-led-still">
         <source>Is the light still lit as before?</source>
-        <translation>Leuchtet sie noch wie vorher?</translation>
+        <translation>Ist die Leuchte noch an wie vorher?</translation>
     </message>
     <message id="kiv-led-still-bad">
         <source>The light does not change when the charger is unplugged.</source>
@@ -2371,7 +2350,7 @@
     </message>
     <message id="kiv-summary-code">
         <source>Code for the station</source>
-        <translation>Code für die Station</translation>
+        <translation>Code für den Prüfplatz</translation>
     </message>
     <message id="kiv-code-copy">
         <source>Copy the text</source>
@@ -2404,7 +2383,7 @@
     </message>
     <message id="kiv-engineer-tests">
         <source>Tests</source>
-        <translation>Prüfungen</translation>
+        <translation>Tests</translation>
     </message>
     <message id="kiv-engineer-processes">
         <source>Processes</source>
@@ -2416,15 +2395,15 @@
     </message>
     <message id="kiv-run-in-stuck">
         <source>The test did not begin in time.</source>
-        <translation>Die Prüfung begann nicht rechtzeitig.</translation>
+        <translation>Der Test begann nicht rechtzeitig.</translation>
     </message>
     <message id="kiv-run-in-exercised">
         <source>It ran without trouble.</source>
-        <translation>Sie lief ohne Störung.</translation>
+        <translation>Er lief ohne Störung.</translation>
     </message>
     <message id="kiv-run-in-timeout">
         <source>It came to no result in time.</source>
-        <translation>Sie kam nicht rechtzeitig zu einem Ergebnis.</translation>
+        <translation>Er kam nicht rechtzeitig zu einem Ergebnis.</translation>
     </message>
     <message id="kiv-run-in-end-time">
         <source>The time is up.</source>
@@ -2451,7 +2430,7 @@
     <message id="kiv-run-in-progress">
         <source>Loop %1, test %2 of %3</source>
         <extracomment>The run-in: number of the loop, place of the test in it, number of tests</extracomment>
-        <translation>Durchgang %1, Prüfung %2 von %3</translation>
+        <translation>Durchgang %1, Test %2 von %3</translation>
     </message>
     <message id="kiv-test-clock">
         <source>Time left: %1</source>
@@ -2460,13 +2439,12 @@
     </message>
     <message id="kiv-run-in-intro">
         <source>Hours: %1. Meanwhile the phone repeats these tests and needs nobody:</source>
-        <oldsource>%2 tests run over and over for %1 hours. The phone needs nobody meanwhile.</oldsource>
         <extracomment>A number of hours</extracomment>
-        <translation>Stunden: %1. So lange wiederholt das Telefon diese Prüfungen und braucht niemanden:</translation>
+        <translation>Stunden: %1. So lange wiederholt das Telefon diese Tests und braucht niemanden:</translation>
     </message>
     <message id="kiv-run-in-empty">
         <source>No test of the run-in can run on this phone.</source>
-        <translation>Keine Prüfung des Dauerlaufs kann auf diesem Telefon laufen.</translation>
+        <translation>Kein Test des Dauerlaufs kann auf diesem Telefon laufen.</translation>
     </message>
     <message id="kiv-run-in-attended">
         <source>These need an operator and stay not tested: %1</source>
@@ -2564,11 +2542,11 @@
     </message>
     <message id="kiv-skip-title">
         <source>Why is this test skipped?</source>
-        <translation>Warum wird diese Prüfung ausgelassen?</translation>
+        <translation>Warum wird dieser Test ausgelassen?</translation>
     </message>
     <message id="kiv-skip-text">
         <source>It stays not tested unless the phone is not meant to have this part.</source>
-        <translation>Sie bleibt ungeprüft, außer wenn das Telefon dieses Teil gar nicht haben soll.</translation>
+        <translation>Er gilt als „Nicht geprüft“, außer wenn das Telefon dieses Teil gar nicht haben soll.</translation>
     </message>
     <message id="kiv-skip-equipment">
         <source>An accessory or a tool is missing</source>
@@ -2580,7 +2558,7 @@
     </message>
     <message id="kiv-skip-later">
         <source>It is tested elsewhere or later</source>
-        <translation>Sie findet woanders oder später statt</translation>
+        <translation>Er findet woanders oder später statt</translation>
     </message>
     <message id="kiv-skip-not-fitted">
         <source>This model is not meant to have this part</source>
@@ -2588,7 +2566,7 @@
     </message>
     <message id="kiv-skip-cancel">
         <source>Go on testing</source>
-        <translation>Weiter prüfen</translation>
+        <translation>Weiter testen</translation>
     </message>
     <message id="kiv-timeout-title">
         <source>Time is up</source>
@@ -2625,7 +2603,7 @@
     </message>
     <message id="kiv-camera-live">
         <source>It follows</source>
-        <translation>Es folgt</translation>
+        <translation>Es bewegt sich mit</translation>
     </message>
     <message id="kiv-camera-still">
         <source>It stands still</source>
@@ -2661,7 +2639,7 @@
     </message>
     <message id="kiv-camera-good">
         <source>The operator saw a live picture without faults.</source>
-        <translation>Der Prüfer hat ein bewegtes Bild ohne Fehler gesehen.</translation>
+        <translation>Der Prüfer hat ein fehlerfreies Livebild gesehen.</translation>
     </message>
     <message id="kiv-camera-back-missing">
         <source>No back camera was found.</source>
@@ -2710,11 +2688,11 @@
     </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
-        <translation>Die Adresse ist in Ordnung, und das Funkteil hat gesucht.</translation>
+        <translation>Die Adresse ist in Ordnung, und das Funkmodul hat gesucht.</translation>
     </message>
     <message id="kiv-wifi-found">
         <source>The address is in order, and the radio was found.</source>
-        <translation>Die Adresse ist in Ordnung, und das Funkteil wurde gefunden.</translation>
+        <translation>Die Adresse ist in Ordnung, und das Funkmodul wurde gefunden.</translation>
     </message>
     <message id="kiv-layout-direction">
         <source>LTR</source>
@@ -2723,7 +2701,7 @@
     </message>
     <message id="kiv-wifi-working">
         <source>Asking for the Wi-Fi radio</source>
-        <translation>Das WLAN-Funkteil wird abgefragt</translation>
+        <translation>Das WLAN-Funkmodul wird abgefragt</translation>
     </message>
     <message id="kiv-led-switching">
         <source>Switching charging</source>
