@@ -19,7 +19,7 @@
     <message id="kiv-limits-range">
         <source>%1 to %2 %3</source>
         <extracomment>Limits of a reading: the lowest, the highest, the unit</extracomment>
-        <translation>%1–%2 %3</translation>
+        <translation>%1 … %2 %3</translation>
     </message>
     <message id="kiv-limits-minimum">
         <source>at least %1 %2</source>
@@ -131,7 +131,7 @@
     </message>
     <message id="kiv-test-receiver">
         <source>Earpiece</source>
-        <translation>Kuuloke korvalla</translation>
+        <translation>Kuulokaiutin</translation>
     </message>
     <message id="kiv-test-headset-buttons">
         <source>Headset buttons</source>
@@ -191,7 +191,7 @@
     </message>
     <message id="kiv-test-vibrator">
         <source>Vibrator</source>
-        <translation>Värinä</translation>
+        <translation>Värinämoottori</translation>
     </message>
     <message id="kiv-test-sim">
         <source>SIM card</source>
@@ -708,11 +708,11 @@
     </message>
     <message id="kiv-headset-buttons-good">
         <source>Every button that the phone knows was pressed and let go.</source>
-        <translation>Jokaista puhelimen tuntemaa painiketta painettiin.</translation>
+        <translation>Jokaista puhelimen tuntemaa painiketta painettiin ja se vapautettiin.</translation>
     </message>
     <message id="kiv-headset-buttons-instructions">
         <source>Plug the headset in and press each of its buttons once.</source>
-        <translation>Kytke kuulokkeet ja paina jokaista painiketta kerran.</translation>
+        <translation>Kytke kuulokemikrofoni ja paina sen jokaista painiketta kerran.</translation>
     </message>
     <message id="kiv-headset-buttons-hint">
         <source>Pass unlocks when a button was pressed and let go.</source>
@@ -720,7 +720,7 @@
     </message>
     <message id="kiv-headset-buttons-missing">
         <source>No headset buttons were found.</source>
-        <translation>Kuulokkeiden painikkeita ei löytynyt.</translation>
+        <translation>Kuulokemikrofonin painikkeita ei löytynyt.</translation>
     </message>
     <message id="kiv-headset-buttons-pressed">
         <source>Buttons pressed</source>
@@ -894,12 +894,11 @@
     </message>
     <message id="kiv-page-missing-advice">
         <source>If this model is not meant to have it, choose Skip and say so.</source>
-        <oldsource>If the phone is meant to be without it, choose Not applicable.</oldsource>
-        <translation>Jos tässä mallissa ei kuulu olla tätä osaa, valitse Ohita ja kerro se.</translation>
+        <translation>Jos tässä mallissa ei kuulu olla tätä osaa, valitse ”Ohita” ja kerro se.</translation>
     </message>
     <message id="kiv-sd-card-mount-failed">
         <source>A card could not be mounted: it may be damaged or have no file system.</source>
-        <translation>Korttia ei voitu liittää: se on vioittunut tai siinä ei ole tiedostojärjestelmää.</translation>
+        <translation>Korttia ei voitu liittää: se voi olla vioittunut tai ilman tiedostojärjestelmää.</translation>
     </message>
     <message id="kiv-sd-card-state">
         <source>Card</source>
@@ -987,7 +986,6 @@
     </message>
     <message id="kiv-vibrator-good">
         <source>The operator felt as many pulses as were given.</source>
-        <oldsource>The operator felt the pulses that were given: %1</oldsource>
         <translation>Testaaja tunsi yhtä monta värähdystä kuin annettiin.</translation>
     </message>
     <message id="kiv-vibrator-instructions">
@@ -1109,7 +1107,6 @@
     </message>
     <message id="kiv-summary-overruled">
         <source>Overruled by the operator: %2. Measured: %1</source>
-        <oldsource>Overruled by the operator; measured: %1</oldsource>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
         <translation>Testaaja päätti toisin: %2. Mitattu: %1</translation>
     </message>
@@ -1164,7 +1161,7 @@
     </message>
     <message id="kiv-verdict-hold">
         <source>Hold Pass until it has filled up</source>
-        <translation>Pidä Hyväksy-painiketta, kunnes se täyttyy</translation>
+        <translation>Pidä Hyväksy painettuna, kunnes se täyttyy</translation>
     </message>
     <message id="kiv-working-probing">
         <source>Checking what this phone has</source>
@@ -1233,11 +1230,11 @@
     </message>
     <message id="kiv-speaker-music-instructions">
         <source>Play the tune and listen to the loudspeaker: every tone must be clear, without rattling.</source>
-        <translation>Soita sävelmä ja kuuntele kaiutinta: jokaisen äänen on oltava puhdas eikä saa säristä.</translation>
+        <translation>Soita sävelmä ja kuuntele kaiutinta: jokaisen äänen on oltava puhdas, eikä se saa säristä.</translation>
     </message>
     <message id="kiv-receiver-instructions">
         <source>Play the tune and hold the phone to your ear: it must come from the earpiece only.</source>
-        <translation>Soita sävelmä ja pidä puhelinta korvalla: sen on kuuluttava vain kuulokkeesta.</translation>
+        <translation>Soita sävelmä ja pidä puhelinta korvalla: sävelmä saa kuulua vain kuulokaiuttimesta.</translation>
     </message>
     <message id="kiv-speaker-stereo-instructions">
         <source>Play each sound: it must come from the side that its button names.</source>
@@ -1249,12 +1246,11 @@
     </message>
     <message id="kiv-microphone-missing">
         <source>The sound server has no built-in microphone, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
         <translation>Äänipalvelulla ei ole sisäistä mikrofonia, tai sen työkalu ei vastaa.</translation>
     </message>
     <message id="kiv-microphone-hint">
         <source>Pass unlocks when a recording has been played back.</source>
-        <translation>Hyväksyntä avautuu, kun nauhoitus on toistettu.</translation>
+        <translation>Hyväksyminen avautuu, kun nauhoitus on toistettu.</translation>
     </message>
     <message id="kiv-microphone-working">
         <source>Looking for the microphone</source>
@@ -1278,12 +1274,11 @@
     </message>
     <message id="kiv-sound-missing">
         <source>The sound server has no main output, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
         <translation>Äänipalvelulla ei ole päälähtöä, tai sen työkalu ei vastaa.</translation>
     </message>
     <message id="kiv-sound-hint">
         <source>Pass unlocks when every sound has been played.</source>
-        <translation>Hyväksyntä avautuu, kun jokainen ääni on soitettu.</translation>
+        <translation>Hyväksyminen avautuu, kun jokainen ääni on soitettu.</translation>
     </message>
     <message id="kiv-sound-working">
         <source>Setting up the sound output</source>
@@ -1315,7 +1310,7 @@
     </message>
     <message id="kiv-fm-radio-hint">
         <source>Pass unlocks when the radio has been on.</source>
-        <translation>Hyväksyntä avautuu, kun radio on ollut päällä.</translation>
+        <translation>Hyväksyminen avautuu, kun radio on ollut päällä.</translation>
     </message>
     <message id="kiv-fm-radio-antenna">
         <source>Headset as antenna</source>
@@ -1359,7 +1354,7 @@
     </message>
     <message id="kiv-microphone-silent">
         <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
-        <translation>Etkö kuullut mitään? Silloin mikrofoni on kuuro tai kansio /tmp on täynnä: nauhoitus vie siellä noin 800 kB.</translation>
+        <translation>Etkö kuullut mitään? Silloin mikrofoni ei toimi tai kansio /tmp on täynnä: nauhoitus vie siellä noin 800 kB.</translation>
     </message>
     <message id="kiv-side-left">
         <source>Left</source>
@@ -1406,7 +1401,7 @@
     </message>
     <message id="kiv-fm-radio-working">
         <source>Waiting for the audio policy</source>
-        <translation>Odotetaan äänenohjausta</translation>
+        <translation>Odotetaan ääniohjausta</translation>
     </message>
     <message id="kiv-gps-satellite">
         <source>Satellite %1, %2 dB</source>
@@ -1480,7 +1475,7 @@
     </message>
     <message id="kiv-network-denied">
         <source>refused by the network</source>
-        <translation>verkko hylkäsi</translation>
+        <translation>verkko torjui</translation>
     </message>
     <message id="kiv-network-home">
         <source>connected</source>
@@ -1674,11 +1669,11 @@
     </message>
     <message id="kiv-gps-first-seen">
         <source>First satellite in view after</source>
-        <translation>Ensimmäinen satelliitti näkyi</translation>
+        <translation>Aika 1. satelliitin näkymiseen</translation>
     </message>
     <message id="kiv-gps-first-used">
         <source>First satellite in use after</source>
-        <translation>Ensimmäinen satelliitti käytössä</translation>
+        <translation>Aika 1. satelliitin käyttöön</translation>
     </message>
     <message id="kiv-sim-working">
         <source>Asking the telephony service</source>
@@ -1686,7 +1681,7 @@
     </message>
     <message id="kiv-sim-silent">
         <source>The telephony service reports no modem, or does not answer.</source>
-        <translation>Puhelupalvelu ei ilmoita modeemia tai ei vastaa.</translation>
+        <translation>Puhelupalvelu ei ilmoita modeemista tai ei vastaa.</translation>
     </message>
     <message id="kiv-sim-good">
         <source>Every SIM card could be read.</source>
@@ -1743,7 +1738,7 @@
     </message>
     <message id="kiv-sim-cards">
         <source>SIM cards read</source>
-        <translation>Modeemeja</translation>
+        <translation>Luettuja SIM-kortteja</translation>
     </message>
     <message id="kiv-usb-otg-good">
         <source>A drive was seen to come and go.</source>
@@ -1771,7 +1766,7 @@
     </message>
     <message id="kiv-usb-otg-late">
         <source>The system has not announced any drive.</source>
-        <translation>Järjestelmä ei ole ilmoittanut asemaa.</translation>
+        <translation>Järjestelmä ei ole ilmoittanut mistään asemasta.</translation>
     </message>
     <message id="kiv-usb-otg-drive">
         <source>USB drive</source>
@@ -1898,7 +1893,7 @@
     </message>
     <message id="kiv-data-instructions">
         <source>Switch Wi-Fi off and mobile data on, open a web page that was not open before, and switch Wi-Fi on again.</source>
-        <translation>Kytke Wi-Fi pois ja mobiilidata päälle, avaa verkkosivu, joka ei ollut aiemmin auki, ja kytke Wi-Fi takaisin päälle.</translation>
+        <translation>Kytke WLAN pois ja mobiilidata päälle, avaa verkkosivu, joka ei ollut aiemmin auki, ja kytke WLAN takaisin päälle.</translation>
     </message>
     <message id="kiv-data-note">
         <source>Kiv cannot tell over which radio a page comes. Where the phone has two SIM cards, try each.</source>
@@ -1910,7 +1905,7 @@
     </message>
     <message id="kiv-data-loaded">
         <source>SIM card %1: did the web page load without Wi-Fi?</source>
-        <translation>SIM-kortti %1: latautuiko verkkosivu ilman Wi-Fiä?</translation>
+        <translation>SIM-kortti %1: latautuiko verkkosivu ilman WLANia?</translation>
     </message>
     <message id="kiv-data-loaded-bad">
         <source>SIM card %1: nothing was loaded over mobile data.</source>
@@ -1926,11 +1921,11 @@
     </message>
     <message id="kiv-voice-heard">
         <source>SIM card %1: could you hear the other end?</source>
-        <translation>SIM-kortti %1: kuulitko toisen pään?</translation>
+        <translation>SIM-kortti %1: kuulitko vastapuolen?</translation>
     </message>
     <message id="kiv-voice-heard-bad">
         <source>SIM card %1: the other end could not be heard.</source>
-        <translation>SIM-kortti %1: toista päätä ei kuulunut.</translation>
+        <translation>SIM-kortti %1: vastapuolta ei kuulunut.</translation>
     </message>
     <message id="kiv-voice-clear">
         <source>SIM card %1: did the call break off, crackle or echo?</source>
@@ -1942,11 +1937,11 @@
     </message>
     <message id="kiv-voice-spoke">
         <source>SIM card %1: could the other end hear you?</source>
-        <translation>SIM-kortti %1: kuuliko toinen pää sinut?</translation>
+        <translation>SIM-kortti %1: kuuliko vastapuoli sinut?</translation>
     </message>
     <message id="kiv-voice-spoke-bad">
         <source>SIM card %1: the other end heard nothing.</source>
-        <translation>SIM-kortti %1: toinen pää ei kuullut mitään.</translation>
+        <translation>SIM-kortti %1: vastapuoli ei kuullut mitään.</translation>
     </message>
     <message id="kiv-voice-missing">
         <source>No modem was found, so no call can be made.</source>
@@ -1962,11 +1957,11 @@
     </message>
     <message id="kiv-voice-good">
         <source>The operator made a call and both ends heard each other.</source>
-        <translation>Testaaja soitti puhelun, ja molemmat päät kuulivat toisensa.</translation>
+        <translation>Testaaja soitti puhelun, ja molemmat osapuolet kuulivat toisensa.</translation>
     </message>
     <message id="kiv-guided-hint">
         <source>Pass unlocks when you have answered the questions.</source>
-        <translation>Hyväksyntä avautuu, kun olet vastannut kysymyksiin.</translation>
+        <translation>Hyväksyminen avautuu, kun olet vastannut kysymyksiin.</translation>
     </message>
     <message id="kiv-reboot-missing">
         <source>The system does not tell when it was started.</source>
@@ -1978,7 +1973,7 @@
     </message>
     <message id="kiv-reboot-hint">
         <source>Pass unlocks when the phone was restarted a short while ago and you have answered the questions.</source>
-        <translation>Hyväksyntä avautuu, kun puhelin on äskettäin käynnistetty uudelleen ja olet vastannut kysymyksiin.</translation>
+        <translation>Hyväksyminen avautuu, kun puhelin on äskettäin käynnistetty uudelleen ja olet vastannut kysymyksiin.</translation>
     </message>
     <message id="kiv-reboot-note">
         <source>A restart ends Kiv, and the verdicts that are not kept elsewhere are gone: do this test first or by itself.</source>
@@ -2002,7 +1997,7 @@
     </message>
     <message id="kiv-reboot-good">
         <source>The phone was restarted and came up again.</source>
-        <translation>Puhelin käynnistettiin uudelleen, ja se nousi taas ylös.</translation>
+        <translation>Puhelin käynnistettiin uudelleen, ja se käynnistyi.</translation>
     </message>
     <message id="kiv-reboot-age">
         <source>Since the start</source>
@@ -2018,11 +2013,11 @@
     </message>
     <message id="kiv-suspend-hint">
         <source>Pass unlocks when the phone has slept.</source>
-        <translation>Hyväksyntä avautuu, kun puhelin on nukkunut.</translation>
+        <translation>Hyväksyminen avautuu, kun puhelin on nukkunut.</translation>
     </message>
     <message id="kiv-suspend-missing">
         <source>The mode-control service does not answer, so nobody knows whether the phone has slept.</source>
-        <translation>Tilanhallintapalvelu ei vastaa, joten kukaan ei tiedä, onko puhelin nukkunut.</translation>
+        <translation>Tilanohjauspalvelu ei vastaa, joten kukaan ei tiedä, onko puhelin nukkunut.</translation>
     </message>
     <message id="kiv-suspend-step-sleep">
         <source>Let the phone sleep</source>
@@ -2038,11 +2033,11 @@
     </message>
     <message id="kiv-suspend-total">
         <source>Slept since the phone was started</source>
-        <translation>Nukuttu puhelimen käynnistyksestä</translation>
+        <translation>Lepotilassa puhelimen käynnistyksestä</translation>
     </message>
     <message id="kiv-suspend-since">
         <source>Slept during this test</source>
-        <translation>Nukuttu tämän testin aikana</translation>
+        <translation>Lepotilassa tämän testin aikana</translation>
     </message>
     <message id="kiv-resistance-missing">
         <source>The battery&apos;s voltage and current cannot be read here.</source>
@@ -2054,7 +2049,7 @@
     </message>
     <message id="kiv-resistance-hint">
         <source>Pass unlocks when the resistance has been measured.</source>
-        <translation>Hyväksyntä avautuu, kun vastus on mitattu.</translation>
+        <translation>Hyväksyminen avautuu, kun vastus on mitattu.</translation>
     </message>
     <message id="kiv-resistance-off">
         <source>The settings of this phone do not ask for this test.</source>
@@ -2066,19 +2061,19 @@
     </message>
     <message id="kiv-resistance-step-off">
         <source>Measuring with the charger off</source>
-        <translation>Mitataan ilman latausvirtaa</translation>
+        <translation>Mitataan lataus pois päältä</translation>
     </message>
     <message id="kiv-resistance-step-again">
         <source>Measuring with the charger on again</source>
-        <translation>Mitataan uudelleen laturin kanssa</translation>
+        <translation>Mitataan lataus taas päällä</translation>
     </message>
     <message id="kiv-resistance-voltage-on">
         <source>Voltage, charger on</source>
-        <translation>Jännite, laturi päällä</translation>
+        <translation>Jännite, lataus päällä</translation>
     </message>
     <message id="kiv-resistance-voltage-off">
         <source>Voltage, charger off</source>
-        <translation>Jännite, laturi pois</translation>
+        <translation>Jännite, lataus pois</translation>
     </message>
     <message id="kiv-resistance-step">
         <source>Step of the current</source>
@@ -2090,12 +2085,11 @@
     </message>
     <message id="kiv-keylight-instructions">
         <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
-        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
-        <translation>Katso näytön viereisiä näppäimiä. Jos niissä ei ole valoa, valitse ”Ohita”.</translation>
+        <translation>Katso näytön viereisiä painikkeita. Jos niissä ei ole valoa, valitse ”Ohita”.</translation>
     </message>
     <message id="kiv-keylight-note">
         <source>Kiv cannot switch this light: the phone lights the keys after a touch and darkens them again.</source>
-        <translation>Kiv ei voi kytkeä tätä valoa: puhelin valaisee näppäimet kosketuksen jälkeen ja sammuttaa ne taas.</translation>
+        <translation>Kiv ei voi kytkeä tätä valoa: puhelin valaisee painikkeet kosketuksen jälkeen ja pimentää ne taas.</translation>
     </message>
     <message id="kiv-keylight-step-touch">
         <source>Touch the field below</source>
@@ -2111,11 +2105,11 @@
     </message>
     <message id="kiv-keylight-lit">
         <source>Are the keys lit now?</source>
-        <translation>Palavatko näppäinten valot nyt?</translation>
+        <translation>Palavatko painikkeiden valot nyt?</translation>
     </message>
     <message id="kiv-keylight-lit-bad">
         <source>The keys do not light up after a touch.</source>
-        <translation>Näppäinten valot eivät syty kosketuksesta.</translation>
+        <translation>Painikkeiden valot eivät syty kosketuksesta.</translation>
     </message>
     <message id="kiv-keylight-stayed">
         <source>Did the keys stay lit while you kept your hands off?</source>
@@ -2123,7 +2117,7 @@
     </message>
     <message id="kiv-keylight-stayed-bad">
         <source>The keys stay lit.</source>
-        <translation>Näppäinten valot jäävät palamaan.</translation>
+        <translation>Painikkeiden valot jäävät palamaan.</translation>
     </message>
     <message id="kiv-keylight-equal">
         <source>Were all of them lit equally bright?</source>
@@ -2131,11 +2125,11 @@
     </message>
     <message id="kiv-keylight-equal-bad">
         <source>Not all keys are lit equally bright.</source>
-        <translation>Kaikki näppäimet eivät ole yhtä kirkkaita.</translation>
+        <translation>Kaikki painikkeet eivät ole yhtä kirkkaita.</translation>
     </message>
     <message id="kiv-keylight-good">
         <source>The operator saw the keys light up and go out.</source>
-        <translation>Testaaja näki näppäinten valojen syttyvän ja sammuvan.</translation>
+        <translation>Testaaja näki painikkeiden valojen syttyvän ja sammuvan.</translation>
     </message>
     <message id="kiv-fingerprint-missing">
         <source>This phone has no fingerprint reader.</source>
@@ -2183,7 +2177,7 @@
     </message>
     <message id="kiv-lcd-hint">
         <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
-        <translation>Hyväksyntä avautuu, kun olet nähnyt kuvat ja laskenut pisteet.</translation>
+        <translation>Hyväksyminen avautuu, kun olet nähnyt kuvat ja laskenut pisteet.</translation>
     </message>
     <message id="kiv-lcd-next">
         <source>Next picture</source>
@@ -2279,7 +2273,7 @@
     </message>
     <message id="kiv-led-hint">
         <source>Pass unlocks when you have said what the light does.</source>
-        <translation>Hyväksyntä avautuu, kun olet kertonut, mitä valo tekee.</translation>
+        <translation>Hyväksyminen avautuu, kun olet kertonut, mitä valo tekee.</translation>
     </message>
     <message id="kiv-led-colour">
         <source>Light while charging</source>
@@ -2356,7 +2350,7 @@
     </message>
     <message id="kiv-summary-code">
         <source>Code for the station</source>
-        <translation>Koodi asemalle</translation>
+        <translation>Koodi testipisteelle</translation>
     </message>
     <message id="kiv-code-copy">
         <source>Copy the text</source>
@@ -2369,7 +2363,7 @@
     <message id="kiv-plot-range">
         <source>%1 to %2</source>
         <extracomment>The least and the greatest reading so far</extracomment>
-        <translation>%1 – %2</translation>
+        <translation>%1 … %2</translation>
     </message>
     <message id="kiv-mode-engineer">
         <source>Engineer&apos;s view</source>
@@ -2445,7 +2439,6 @@
     </message>
     <message id="kiv-run-in-intro">
         <source>Hours: %1. Meanwhile the phone repeats these tests and needs nobody:</source>
-        <oldsource>%2 tests run over and over for %1 hours. The phone needs nobody meanwhile.</oldsource>
         <extracomment>A number of hours</extracomment>
         <translation>Tunteja: %1. Sen ajan puhelin toistaa näitä testejä itsekseen:</translation>
     </message>
@@ -2553,7 +2546,7 @@
     </message>
     <message id="kiv-skip-text">
         <source>It stays not tested unless the phone is not meant to have this part.</source>
-        <translation>Se jää testaamatta, ellei puhelimesta kuulu puuttua tämä osa.</translation>
+        <translation>Se jää testaamatta, paitsi jos tätä osaa ei kuulu olla puhelimessa.</translation>
     </message>
     <message id="kiv-skip-equipment">
         <source>An accessory or a tool is missing</source>
