@@ -287,7 +287,6 @@
     </message>
     <message id="kiv-battery-wear">
         <source>Capacity compared to new</source>
-        <oldsource>Capacity of its design</oldsource>
         <translation>容量与新电池之比</translation>
     </message>
     <message id="kiv-disclaimer-title">
@@ -316,7 +315,6 @@
     </message>
     <message id="kiv-home-question">
         <source>Which tests do you want to run?</source>
-        <oldsource>Which tests shall run?</oldsource>
         <translation>要运行哪些测试？</translation>
     </message>
     <message id="kiv-mode-factory">
@@ -333,7 +331,6 @@
     </message>
     <message id="kiv-mode-run-in-detail">
         <source>Endurance tests for a new phone</source>
-        <oldsource>The tests that warm a new phone up</oldsource>
         <translation>新手机的耐久测试</translation>
     </message>
     <message id="kiv-mode-all">
@@ -342,7 +339,6 @@
     </message>
     <message id="kiv-mode-all-detail">
         <source>Everything this phone has, one by one or in a row</source>
-        <oldsource>Everything that this phone has, singly or in a row</oldsource>
         <translation>本机所有的测试，逐项或连续进行</translation>
     </message>
     <message id="kiv-list-subtitle">
@@ -392,7 +388,6 @@
     </message>
     <message id="kiv-summary-overruled">
         <source>Overruled by the operator: %2. Measured: %1</source>
-        <oldsource>Overruled by the operator; measured: %1</oldsource>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
         <translation>操作员推翻了测量结论：%2。测量结果：%1</translation>
     </message>
@@ -406,7 +401,6 @@
     </message>
     <message id="kiv-summary-retest">
         <source>Retest failed</source>
-        <oldsource>Retest the failed</oldsource>
         <translation>重测不合格项</translation>
     </message>
     <message id="kiv-summary-list">
@@ -436,7 +430,6 @@
     </message>
     <message id="kiv-page-missing-advice">
         <source>If this model is not meant to have it, choose Skip and say so.</source>
-        <oldsource>If the phone is meant to be without it, choose Not applicable.</oldsource>
         <translation>如果该机型本来就没有此部件，请选择“跳过”并说明原因。</translation>
     </message>
     <message id="kiv-page-guided">
@@ -453,12 +446,10 @@
     </message>
     <message id="kiv-verdict-hold">
         <source>Hold Pass until it has filled up</source>
-        <oldsource>Hold Pass until it fills</oldsource>
         <translation>请按住“合格”直到填满</translation>
     </message>
     <message id="kiv-working-probing">
         <source>Checking what this phone has</source>
-        <oldsource>Looking at what this phone has</oldsource>
         <translation>正在检查本机具备哪些部件</translation>
     </message>
     <message id="kiv-step-done">
@@ -528,7 +519,7 @@
     </message>
     <message id="kiv-sensor-compass">
         <source>Compass</source>
-        <translation>罗盘</translation>
+        <translation>电子罗盘</translation>
     </message>
     <message id="kiv-sensor-gyroscope">
         <source>Gyroscope</source>
@@ -649,7 +640,7 @@
     </message>
     <message id="kiv-touch-self-instructions">
         <source>The touch controller tests itself. Keep fingers off the panel.</source>
-        <translation>触摸控制器正在自检。手指请勿接触屏幕。</translation>
+        <translation>触摸控制器正在自检。请勿用手指接触屏幕。</translation>
     </message>
     <message id="kiv-touch-self-hint">
         <source>Pass unlocks when the controller has answered.</source>
@@ -673,12 +664,11 @@
     </message>
     <message id="kiv-battery-missing">
         <source>No battery was found.</source>
-        <oldsource>This phone shows no battery to the system.</oldsource>
         <translation>未找到电池。</translation>
     </message>
     <message id="kiv-ecompass-good">
         <source>The compass followed a whole turn.</source>
-        <translation>罗盘跟随转动了一整圈。</translation>
+        <translation>电子罗盘跟随转动了一整圈。</translation>
     </message>
     <message id="kiv-ecompass-instructions">
         <source>Keep the phone level and turn around once. If it sticks, draw a large eight in the air with the phone first.</source>
@@ -686,12 +676,11 @@
     </message>
     <message id="kiv-ecompass-hint">
         <source>Pass unlocks when the compass followed a whole turn.</source>
-        <translation>罗盘跟随转动一整圈后才能判为合格。</translation>
+        <translation>电子罗盘跟随转动一整圈后才能判为合格。</translation>
     </message>
     <message id="kiv-ecompass-missing">
         <source>No compass was found.</source>
-        <oldsource>This phone shows no compass to the system.</oldsource>
-        <translation>未找到罗盘。</translation>
+        <translation>未找到电子罗盘。</translation>
     </message>
     <message id="kiv-ecompass-heading">
         <source>Heading</source>
@@ -807,7 +796,6 @@
     </message>
     <message id="kiv-headset-missing">
         <source>No headset socket was found.</source>
-        <oldsource>This phone shows no headset socket to the system.</oldsource>
         <translation>未找到耳机插孔。</translation>
     </message>
     <message id="kiv-headset-step-empty">
@@ -846,7 +834,6 @@
     </message>
     <message id="kiv-headset-buttons-missing">
         <source>No headset buttons were found.</source>
-        <oldsource>This phone shows no headset buttons to the system.</oldsource>
         <translation>未找到耳机按键。</translation>
     </message>
     <message id="kiv-headset-buttons-pressed">
@@ -896,7 +883,6 @@
     </message>
     <message id="kiv-light-missing">
         <source>No light sensor was found.</source>
-        <oldsource>This phone shows no light sensor to the system.</oldsource>
         <translation>未找到光线传感器。</translation>
     </message>
     <message id="kiv-light-now">
@@ -913,19 +899,19 @@
     </message>
     <message id="kiv-multi-touch-good">
         <source>The panel told %1 fingers apart.</source>
-        <translation>触摸屏区分出 %1 个手指。</translation>
+        <translation>触摸屏区分出 %1 根手指。</translation>
     </message>
     <message id="kiv-multi-touch-bad">
         <source>The panel did not tell two fingers apart.</source>
-        <translation>触摸屏未能区分两个手指。</translation>
+        <translation>触摸屏未能区分两根手指。</translation>
     </message>
     <message id="kiv-multi-touch-instructions">
         <source>Put five fingers on the panel at once.</source>
-        <translation>将五个手指同时放在触摸屏上。</translation>
+        <translation>将五根手指同时放在触摸屏上。</translation>
     </message>
     <message id="kiv-multi-touch-hint">
         <source>Pass unlocks when two fingers have been told apart.</source>
-        <translation>区分出两个手指后才能判为合格。</translation>
+        <translation>区分出两根手指后才能判为合格。</translation>
     </message>
     <message id="kiv-multi-touch-count">
         <source>%1 of %2</source>
@@ -950,7 +936,6 @@
     </message>
     <message id="kiv-prox-missing">
         <source>No proximity sensor was found.</source>
-        <oldsource>This phone shows no proximity sensor to the system.</oldsource>
         <translation>未找到距离传感器。</translation>
     </message>
     <message id="kiv-prox-step-near">
@@ -1055,7 +1040,6 @@
     </message>
     <message id="kiv-charging-missing">
         <source>No battery was found, so charging cannot be observed.</source>
-        <oldsource>This phone shows no battery to the system, so charging cannot be seen.</oldsource>
         <translation>未找到电池，因此无法观察充电。</translation>
     </message>
     <message id="kiv-charging-switching-off">
@@ -1108,8 +1092,7 @@
     </message>
     <message id="kiv-vibrator-good">
         <source>The operator felt as many pulses as were given.</source>
-        <oldsource>The operator felt the pulses that were given: %1</oldsource>
-        <translation>操作员感觉到的振动次数与实际相同。</translation>
+        <translation>操作员感觉到的振动次数与实际次数相同。</translation>
     </message>
     <message id="kiv-vibrator-instructions">
         <source>Hold the phone in the hand and count the pulses.</source>
@@ -1121,7 +1104,6 @@
     </message>
     <message id="kiv-vibrator-missing">
         <source>No vibrator was found.</source>
-        <oldsource>This phone offers no vibrator to the system.</oldsource>
         <translation>未找到振动马达。</translation>
     </message>
     <message id="kiv-vibrator-question">
@@ -1264,7 +1246,6 @@
     </message>
     <message id="kiv-microphone-missing">
         <source>The sound server has no built-in microphone, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
         <translation>音频服务没有内置麦克风，或其工具没有应答。</translation>
     </message>
     <message id="kiv-microphone-hint">
@@ -1293,7 +1274,6 @@
     </message>
     <message id="kiv-sound-missing">
         <source>The sound server has no main output, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
         <translation>音频服务没有主输出，或其工具没有应答。</translation>
     </message>
     <message id="kiv-sound-hint">
@@ -1430,7 +1410,7 @@
     </message>
     <message id="kiv-gps-used">
         <source>in use</source>
-        <translation>已使用</translation>
+        <translation>使用中</translation>
     </message>
     <message id="kiv-gps-more">
         <source>Weaker ones that are not shown: %1</source>
@@ -1633,7 +1613,7 @@
     </message>
     <message id="kiv-gps-good">
         <source>A satellite was in use after %1 s.</source>
-        <translation>%1 秒后有一颗卫星被使用。</translation>
+        <translation>%1 秒后有一颗卫星用于定位。</translation>
     </message>
     <message id="kiv-gps-instructions">
         <source>Go outdoors or to a window. The first satellite may take some minutes.</source>
@@ -1645,7 +1625,7 @@
     </message>
     <message id="kiv-gps-hint">
         <source>Pass unlocks when a satellite is in use.</source>
-        <translation>使用到一颗卫星后才能判为合格。</translation>
+        <translation>有卫星用于定位后才能判为合格。</translation>
     </message>
     <message id="kiv-gps-missing">
         <source>This phone has no satellite receiver.</source>
@@ -1725,7 +1705,7 @@
     </message>
     <message id="kiv-sim-cardless">
         <source>A SIM card is not there, is locked or cannot be read. Look after it, then ask again.</source>
-        <translation>有一张 SIM 卡不在、被锁定或无法读取。请处理后再次查询。</translation>
+        <translation>有 SIM 卡缺失、被锁定或无法读取。请处理后再次查询。</translation>
     </message>
     <message id="kiv-sim-again">
         <source>Ask again</source>
@@ -1897,7 +1877,7 @@
     <message id="kiv-checks-position">
         <source>Question %1 of %2</source>
         <extracomment>How far the operator is with a list of questions</extracomment>
-        <translation>第 %1 个问题，共 %2 个</translation>
+        <translation>第 %1 题，共 %2 题</translation>
     </message>
     <message id="kiv-checks-yes">
         <source>Yes</source>
@@ -1925,7 +1905,7 @@
     </message>
     <message id="kiv-data-loaded">
         <source>SIM card %1: did the web page load without Wi-Fi?</source>
-        <translation>SIM 卡 %1：不用 Wi-Fi 能加载网页吗？</translation>
+        <translation>SIM 卡 %1：关闭 Wi-Fi 后网页加载出来了吗？</translation>
     </message>
     <message id="kiv-data-loaded-bad">
         <source>SIM card %1: nothing was loaded over mobile data.</source>
@@ -2105,7 +2085,6 @@
     </message>
     <message id="kiv-keylight-instructions">
         <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
-        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
         <translation>看屏幕旁边的按键。如果按键没有背光，请选择“跳过”。</translation>
     </message>
     <message id="kiv-keylight-note">
@@ -2158,7 +2137,7 @@
     </message>
     <message id="kiv-fingerprint-instructions">
         <source>Open the fingerprints in the phone&apos;s settings. Enrol one finger, lock the phone, and touch the reader with this finger and with another one.</source>
-        <translation>在手机的设置中打开指纹。录入一个手指，锁定手机，然后分别用该手指和另一个手指触摸识别器。</translation>
+        <translation>在手机的设置中打开指纹。录入一根手指，锁定手机，然后分别用该手指和另一根手指触摸识别器。</translation>
     </message>
     <message id="kiv-fingerprint-note">
         <source>Kiv cannot reach the reader: the phone keeps fingerprints to itself. Remove the finger from the settings afterwards.</source>
@@ -2166,11 +2145,11 @@
     </message>
     <message id="kiv-fingerprint-good">
         <source>The operator saw the reader know one finger and refuse another.</source>
-        <translation>操作员看到识别器认出一个手指并拒绝了另一个。</translation>
+        <translation>操作员看到识别器认出一根手指并拒绝了另一根。</translation>
     </message>
     <message id="kiv-fingerprint-enrolled">
         <source>Could the finger be enrolled?</source>
-        <translation>能否录入手指？</translation>
+        <translation>手指录入成功了吗？</translation>
     </message>
     <message id="kiv-fingerprint-enrolled-bad">
         <source>The finger could not be enrolled.</source>
@@ -2178,7 +2157,7 @@
     </message>
     <message id="kiv-fingerprint-other">
         <source>Did another finger unlock the phone?</source>
-        <translation>另一个手指是否解锁了手机？</translation>
+        <translation>另一根手指是否解锁了手机？</translation>
     </message>
     <message id="kiv-fingerprint-other-bad">
         <source>A finger that was not enrolled unlocked the phone.</source>
@@ -2262,11 +2241,11 @@
     </message>
     <message id="kiv-backlight-uneven">
         <source>Was the white uneven, or did it flicker?</source>
-        <translation>白色是否不均匀或闪烁？</translation>
+        <translation>白色画面是否有明暗不均或闪烁？</translation>
     </message>
     <message id="kiv-backlight-uneven-bad">
         <source>The backlight is uneven or flickers.</source>
-        <translation>背光不均匀或闪烁。</translation>
+        <translation>背光明暗不均或闪烁。</translation>
     </message>
     <message id="kiv-backlight-follows">
         <source>Set the brightness in the phone&apos;s own settings to the lowest and the highest. Does the light follow?</source>
@@ -2460,7 +2439,6 @@
     </message>
     <message id="kiv-run-in-intro">
         <source>Hours: %1. Meanwhile the phone repeats these tests and needs nobody:</source>
-        <oldsource>%2 tests run over and over for %1 hours. The phone needs nobody meanwhile.</oldsource>
         <extracomment>A number of hours</extracomment>
         <translation>小时数：%1。其间手机自动重复以下测试，无需看管：</translation>
     </message>
@@ -2471,7 +2449,7 @@
     <message id="kiv-run-in-attended">
         <source>These need an operator and stay not tested: %1</source>
         <extracomment>Names of tests</extracomment>
-        <translation>以下测试需要操作员，保持未测试：%1</translation>
+        <translation>以下测试需要操作员，结果仍为“未测试”：%1</translation>
     </message>
     <message id="kiv-run-in-stop-on-failure">
         <source>Stop at the first failure</source>
@@ -2568,7 +2546,7 @@
     </message>
     <message id="kiv-skip-text">
         <source>It stays not tested unless the phone is not meant to have this part.</source>
-        <translation>除非手机本来就没有此部件，否则保持未测试。</translation>
+        <translation>除非手机本来就没有此部件，否则结果仍为“未测试”。</translation>
     </message>
     <message id="kiv-skip-equipment">
         <source>An accessory or a tool is missing</source>
