@@ -9,7 +9,7 @@
     </message>
     <message id="kiv-reading-missing">
         <source>no reading</source>
-        <translation>אין קריאה</translation>
+        <translation>אין ערך</translation>
     </message>
     <message id="kiv-limits-range">
         <source>%1 to %2 %3</source>
@@ -62,11 +62,11 @@
     </message>
     <message id="kiv-test-touch-self">
         <source>Touch panel self-test</source>
-        <translation>בדיקה עצמית של לוח המגע</translation>
+        <translation>בדיקה עצמית של מסך המגע</translation>
     </message>
     <message id="kiv-test-touch">
         <source>Touch panel</source>
-        <translation>לוח המגע</translation>
+        <translation>מסך המגע</translation>
     </message>
     <message id="kiv-test-multi-touch">
         <source>Several fingers</source>
@@ -182,7 +182,7 @@
     </message>
     <message id="kiv-test-vibrator">
         <source>Vibrator</source>
-        <translation>רטט</translation>
+        <translation>מנוע רטט</translation>
     </message>
     <message id="kiv-test-sim">
         <source>SIM card</source>
@@ -255,7 +255,7 @@
     </message>
     <message id="kiv-battery-good">
         <source>Every reading with a limit is within it.</source>
-        <translation>כל הקריאות שיש להן גבולות נמצאות בתוכם.</translation>
+        <translation>כל הערכים שיש להם גבולות נמצאים בתוכם.</translation>
     </message>
     <message id="kiv-battery-present">
         <source>Battery in place</source>
@@ -287,7 +287,6 @@
     </message>
     <message id="kiv-battery-wear">
         <source>Capacity compared to new</source>
-        <oldsource>Capacity of its design</oldsource>
         <translation>קיבולת ביחס לסוללה חדשה</translation>
     </message>
     <message id="kiv-disclaimer-title">
@@ -316,7 +315,6 @@
     </message>
     <message id="kiv-home-question">
         <source>Which tests do you want to run?</source>
-        <oldsource>Which tests shall run?</oldsource>
         <translation>אילו בדיקות להריץ?</translation>
     </message>
     <message id="kiv-mode-factory">
@@ -333,7 +331,6 @@
     </message>
     <message id="kiv-mode-run-in-detail">
         <source>Endurance tests for a new phone</source>
-        <oldsource>The tests that warm a new phone up</oldsource>
         <translation>בדיקות עמידות לטלפון חדש</translation>
     </message>
     <message id="kiv-mode-all">
@@ -342,7 +339,6 @@
     </message>
     <message id="kiv-mode-all-detail">
         <source>Everything this phone has, one by one or in a row</source>
-        <oldsource>Everything that this phone has, singly or in a row</oldsource>
         <translation>כל מה שיש בטלפון, אחת אחת או ברצף</translation>
     </message>
     <message id="kiv-list-subtitle">
@@ -388,11 +384,10 @@
     </message>
     <message id="kiv-settings-disclaimer">
         <source>Read the notice again</source>
-        <translation>לקרוא שוב את ההודעה</translation>
+        <translation>קריאה חוזרת של ההודעה</translation>
     </message>
     <message id="kiv-summary-overruled">
         <source>Overruled by the operator: %2. Measured: %1</source>
-        <oldsource>Overruled by the operator; measured: %1</oldsource>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
         <translation>המפעיל הכריע אחרת: ⁨%2⁩. נמדד: ⁨%1⁩</translation>
     </message>
@@ -406,7 +401,6 @@
     </message>
     <message id="kiv-summary-retest">
         <source>Retest failed</source>
-        <oldsource>Retest the failed</oldsource>
         <translation>בדיקה חוזרת לנכשלות</translation>
     </message>
     <message id="kiv-summary-list">
@@ -436,12 +430,11 @@
     </message>
     <message id="kiv-page-missing-advice">
         <source>If this model is not meant to have it, choose Skip and say so.</source>
-        <oldsource>If the phone is meant to be without it, choose Not applicable.</oldsource>
         <translation>אם החלק לא אמור להיות בדגם הזה, בחרו &quot;דילוג&quot; וציינו זאת.</translation>
     </message>
     <message id="kiv-page-guided">
         <source>You judge this one: the phone cannot see the result itself.</source>
-        <translation>כאן אתם שופטים: הטלפון אינו יכול לראות את התוצאה בעצמו.</translation>
+        <translation>כאן ההכרעה שלכם: הטלפון אינו יכול לראות את התוצאה בעצמו.</translation>
     </message>
     <message id="kiv-verdict-fail">
         <source>Fail</source>
@@ -453,12 +446,10 @@
     </message>
     <message id="kiv-verdict-hold">
         <source>Hold Pass until it has filled up</source>
-        <oldsource>Hold Pass until it fills</oldsource>
         <translation>החזיקו את &quot;עבר&quot; עד שיתמלא</translation>
     </message>
     <message id="kiv-working-probing">
         <source>Checking what this phone has</source>
-        <oldsource>Looking at what this phone has</oldsource>
         <translation>בודק מה יש בטלפון הזה</translation>
     </message>
     <message id="kiv-step-done">
@@ -548,7 +539,7 @@
     </message>
     <message id="kiv-sensor-orientation">
         <source>Orientation</source>
-        <translation>כיוון</translation>
+        <translation>מנח</translation>
     </message>
     <message id="kiv-sensor-pressure">
         <source>Air pressure</source>
@@ -649,7 +640,7 @@
     </message>
     <message id="kiv-touch-self-instructions">
         <source>The touch controller tests itself. Keep fingers off the panel.</source>
-        <translation>בקר המגע בודק את עצמו. אין לגעת בלוח.</translation>
+        <translation>בקר המגע בודק את עצמו. אין לגעת במסך.</translation>
     </message>
     <message id="kiv-touch-self-hint">
         <source>Pass unlocks when the controller has answered.</source>
@@ -673,7 +664,6 @@
     </message>
     <message id="kiv-battery-missing">
         <source>No battery was found.</source>
-        <oldsource>This phone shows no battery to the system.</oldsource>
         <translation>לא נמצאה סוללה.</translation>
     </message>
     <message id="kiv-ecompass-good">
@@ -690,7 +680,6 @@
     </message>
     <message id="kiv-ecompass-missing">
         <source>No compass was found.</source>
-        <oldsource>This phone shows no compass to the system.</oldsource>
         <translation>לא נמצא מצפן.</translation>
     </message>
     <message id="kiv-ecompass-heading">
@@ -723,7 +712,7 @@
     </message>
     <message id="kiv-gyro-measure">
         <source>It lies flat: measure now</source>
-        <translation>הוא מונח: למדוד עכשיו</translation>
+        <translation>הטלפון מונח: מדידה</translation>
     </message>
     <message id="kiv-gyro-progress">
         <source>Measuring: %1 of %2</source>
@@ -807,7 +796,6 @@
     </message>
     <message id="kiv-headset-missing">
         <source>No headset socket was found.</source>
-        <oldsource>This phone shows no headset socket to the system.</oldsource>
         <translation>לא נמצא שקע אוזניות.</translation>
     </message>
     <message id="kiv-headset-step-empty">
@@ -846,7 +834,6 @@
     </message>
     <message id="kiv-headset-buttons-missing">
         <source>No headset buttons were found.</source>
-        <oldsource>This phone shows no headset buttons to the system.</oldsource>
         <translation>לא נמצאו לחצני אוזניות.</translation>
     </message>
     <message id="kiv-headset-buttons-pressed">
@@ -896,7 +883,6 @@
     </message>
     <message id="kiv-light-missing">
         <source>No light sensor was found.</source>
-        <oldsource>This phone shows no light sensor to the system.</oldsource>
         <translation>לא נמצא חיישן אור.</translation>
     </message>
     <message id="kiv-light-now">
@@ -913,15 +899,15 @@
     </message>
     <message id="kiv-multi-touch-good">
         <source>The panel told %1 fingers apart.</source>
-        <translation>הלוח הבחין בין %1 אצבעות.</translation>
+        <translation>המסך הבחין בין %1 אצבעות.</translation>
     </message>
     <message id="kiv-multi-touch-bad">
         <source>The panel did not tell two fingers apart.</source>
-        <translation>הלוח לא הבחין בין שתי אצבעות.</translation>
+        <translation>המסך לא הבחין בין שתי אצבעות.</translation>
     </message>
     <message id="kiv-multi-touch-instructions">
         <source>Put five fingers on the panel at once.</source>
-        <translation>הניחו חמש אצבעות על הלוח בבת אחת.</translation>
+        <translation>הניחו חמש אצבעות על המסך בבת אחת.</translation>
     </message>
     <message id="kiv-multi-touch-hint">
         <source>Pass unlocks when two fingers have been told apart.</source>
@@ -950,7 +936,6 @@
     </message>
     <message id="kiv-prox-missing">
         <source>No proximity sensor was found.</source>
-        <oldsource>This phone shows no proximity sensor to the system.</oldsource>
         <translation>לא נמצא חיישן קרבה.</translation>
     </message>
     <message id="kiv-prox-step-near">
@@ -971,19 +956,19 @@
     </message>
     <message id="kiv-sd-card-unmounted">
         <source>Not mounted</source>
-        <translation>לא מחובר למערכת הקבצים</translation>
+        <translation>לא מעוגן</translation>
     </message>
     <message id="kiv-sd-card-mounting">
         <source>Being mounted</source>
-        <translation>מתחבר</translation>
+        <translation>בתהליך עיגון</translation>
     </message>
     <message id="kiv-sd-card-mounted">
         <source>Mounted</source>
-        <translation>מחובר</translation>
+        <translation>מעוגן</translation>
     </message>
     <message id="kiv-sd-card-unmounting">
         <source>Being unmounted</source>
-        <translation>מתנתק</translation>
+        <translation>העיגון מבוטל</translation>
     </message>
     <message id="kiv-sd-card-not-created">
         <source>No file could be created on the card.</source>
@@ -1007,7 +992,7 @@
     </message>
     <message id="kiv-sd-card-instructions">
         <source>The card is tested as soon as it is mounted.</source>
-        <translation>הכרטיס נבדק מיד כשהוא מתחבר.</translation>
+        <translation>הכרטיס נבדק מיד כשהוא מעוגן.</translation>
     </message>
     <message id="kiv-sd-card-hint">
         <source>Pass unlocks when the card has been written and read.</source>
@@ -1019,7 +1004,7 @@
     </message>
     <message id="kiv-sd-card-mount-failed">
         <source>A card could not be mounted: it may be damaged or have no file system.</source>
-        <translation>לא היה אפשר לחבר כרטיס: ייתכן שהוא פגום או שאין בו מערכת קבצים.</translation>
+        <translation>לא היה אפשר לעגן כרטיס: ייתכן שהוא פגום או שאין בו מערכת קבצים.</translation>
     </message>
     <message id="kiv-sd-card-state">
         <source>Card</source>
@@ -1031,15 +1016,15 @@
     </message>
     <message id="kiv-touch-good">
         <source>Every part of the panel has reacted.</source>
-        <translation>כל חלקי הלוח הגיבו.</translation>
+        <translation>כל חלקי המסך הגיבו.</translation>
     </message>
     <message id="kiv-touch-bad">
         <source>Parts of the panel did not react: %1 of %2</source>
-        <translation>חלקים בלוח שלא הגיבו: %1 מתוך %2</translation>
+        <translation>חלקים במסך שלא הגיבו: %1 מתוך %2</translation>
     </message>
     <message id="kiv-touch-instructions">
         <source>Wipe over the whole panel until no cell is left.</source>
-        <translation>העבירו אצבע על כל הלוח עד שלא יישאר אף תא.</translation>
+        <translation>העבירו אצבע על כל המסך עד שלא יישאר אף תא.</translation>
     </message>
     <message id="kiv-touch-hint">
         <source>Pass unlocks when every cell has been wiped.</source>
@@ -1055,7 +1040,6 @@
     </message>
     <message id="kiv-charging-missing">
         <source>No battery was found, so charging cannot be observed.</source>
-        <oldsource>This phone shows no battery to the system, so charging cannot be seen.</oldsource>
         <translation>לא נמצאה סוללה, ולכן אי אפשר לעקוב אחר הטעינה.</translation>
     </message>
     <message id="kiv-charging-switching-off">
@@ -1108,7 +1092,6 @@
     </message>
     <message id="kiv-vibrator-good">
         <source>The operator felt as many pulses as were given.</source>
-        <oldsource>The operator felt the pulses that were given: %1</oldsource>
         <translation>המפעיל הרגיש בדיוק את מספר הרטטים שניתנו.</translation>
     </message>
     <message id="kiv-vibrator-instructions">
@@ -1121,8 +1104,7 @@
     </message>
     <message id="kiv-vibrator-missing">
         <source>No vibrator was found.</source>
-        <oldsource>This phone offers no vibrator to the system.</oldsource>
-        <translation>לא נמצא רטט.</translation>
+        <translation>לא נמצא מנוע רטט.</translation>
     </message>
     <message id="kiv-vibrator-question">
         <source>How many pulses did you feel?</source>
@@ -1130,7 +1112,7 @@
     </message>
     <message id="kiv-vibrator-again">
         <source>Give the pulses again</source>
-        <translation>רטט פעם נוספת</translation>
+        <translation>רטט חוזר</translation>
     </message>
     <message id="kiv-limits-accepted">
         <source>must be %1</source>
@@ -1264,7 +1246,6 @@
     </message>
     <message id="kiv-microphone-missing">
         <source>The sound server has no built-in microphone, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it knows no built-in microphone.</oldsource>
         <translation>לשרת הקול אין מיקרופון מובנה, או שהכלי שלו אינו עונה.</translation>
     </message>
     <message id="kiv-microphone-hint">
@@ -1293,7 +1274,6 @@
     </message>
     <message id="kiv-sound-missing">
         <source>The sound server has no main output, or its tool does not answer.</source>
-        <oldsource>The sound server does not answer, or it has no main output.</oldsource>
         <translation>לשרת הקול אין יציאה ראשית, או שהכלי שלו אינו עונה.</translation>
     </message>
     <message id="kiv-sound-hint">
@@ -1374,7 +1354,7 @@
     </message>
     <message id="kiv-microphone-silent">
         <source>Nothing heard? Then the microphone is deaf, or the folder /tmp is full: a recording takes about 800 kB there.</source>
-        <translation>לא שמעתם דבר? אז המיקרופון חירש, או שהתיקייה ⁦/tmp⁩ מלאה: הקלטה תופסת בה בערך ⁦800 kB⁩.</translation>
+        <translation>לא שמעתם דבר? אז המיקרופון אינו קולט, או שהתיקייה ⁦/tmp⁩ מלאה: הקלטה תופסת בה בערך ⁦800 kB⁩.</translation>
     </message>
     <message id="kiv-side-left">
         <source>Left</source>
@@ -1426,7 +1406,7 @@
     <message id="kiv-gps-satellite">
         <source>Satellite %1, %2 dB</source>
         <extracomment>A satellite: its number, its strength in decibels</extracomment>
-        <translation>לוויין %1, %2 dB</translation>
+        <translation>לוויין %1, ⁦%2 dB⁩</translation>
     </message>
     <message id="kiv-gps-used">
         <source>in use</source>
@@ -1568,7 +1548,7 @@
     </message>
     <message id="kiv-bluetooth-good">
         <source>The address is in order, and the radio found a device: %1</source>
-        <translation>הכתובת תקינה, והרדיו מצא התקן: ⁦%1⁩</translation>
+        <translation>הכתובת תקינה, ורכיב הרדיו מצא התקן: ⁦%1⁩</translation>
     </message>
     <message id="kiv-bluetooth-instructions-blind">
         <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds devices.</source>
@@ -1580,7 +1560,7 @@
     </message>
     <message id="kiv-bluetooth-hint">
         <source>Pass unlocks when the address is in order and the radio has searched.</source>
-        <translation>&quot;עבר&quot; ייפתח כשהכתובת תקינה והרדיו סיים לחפש.</translation>
+        <translation>&quot;עבר&quot; ייפתח כשהכתובת תקינה ורכיב הרדיו סיים לחפש.</translation>
     </message>
     <message id="kiv-bluetooth-missing">
         <source>This phone has no Bluetooth.</source>
@@ -1588,11 +1568,11 @@
     </message>
     <message id="kiv-radio-blind">
         <source>This phone&apos;s system does not tell anything about the radio.</source>
-        <translation>המערכת של הטלפון הזה אינה מספרת דבר על הרדיו.</translation>
+        <translation>המערכת של הטלפון הזה אינה מספרת דבר על רכיב הרדיו.</translation>
     </message>
     <message id="kiv-bluetooth-nobody">
         <source>The radio searched, but no device answered.</source>
-        <translation>הרדיו חיפש, אך אף התקן לא ענה.</translation>
+        <translation>רכיב הרדיו חיפש, אך אף התקן לא ענה.</translation>
     </message>
     <message id="kiv-bluetooth-again">
         <source>Search again</source>
@@ -1604,7 +1584,7 @@
     </message>
     <message id="kiv-radio-found">
         <source>Radio found</source>
-        <translation>נמצא רדיו</translation>
+        <translation>נמצא רכיב רדיו</translation>
     </message>
     <message id="kiv-bluetooth-devices">
         <source>Devices found</source>
@@ -1729,7 +1709,7 @@
     </message>
     <message id="kiv-sim-again">
         <source>Ask again</source>
-        <translation>לשאול שוב</translation>
+        <translation>שאילתה נוספת</translation>
     </message>
     <message id="kiv-sim-card">
         <source>SIM card read</source>
@@ -1802,7 +1782,7 @@
     </message>
     <message id="kiv-wifi-good">
         <source>The address is in order, and the radio is connected to a network.</source>
-        <translation>הכתובת תקינה, והרדיו מחובר לרשת.</translation>
+        <translation>הכתובת תקינה, ורכיב הרדיו מחובר לרשת.</translation>
     </message>
     <message id="kiv-wifi-instructions-blind">
         <source>The address is compared with its pattern. Then see in the phone&apos;s settings whether it finds networks.</source>
@@ -1814,7 +1794,7 @@
     </message>
     <message id="kiv-wifi-hint">
         <source>Pass unlocks when the address is in order and the radio was found.</source>
-        <translation>&quot;עבר&quot; ייפתח כשהכתובת תקינה והרדיו נמצא.</translation>
+        <translation>&quot;עבר&quot; ייפתח כשהכתובת תקינה ורכיב הרדיו נמצא.</translation>
     </message>
     <message id="kiv-wifi-missing">
         <source>This phone has no Wi-Fi.</source>
@@ -1822,7 +1802,7 @@
     </message>
     <message id="kiv-wifi-unconnected">
         <source>The radio is there, but not connected. Without a network in reach, judge by the networks that the settings list.</source>
-        <translation>הרדיו קיים אך אינו מחובר. אם אין רשת בטווח, שפטו לפי הרשתות שמופיעות בהגדרות.</translation>
+        <translation>רכיב הרדיו קיים אך אינו מחובר. אם אין רשת בטווח, שפטו לפי הרשתות שמופיעות בהגדרות.</translation>
     </message>
     <message id="kiv-wifi-connection">
         <source>Connection</source>
@@ -1917,7 +1897,7 @@
     </message>
     <message id="kiv-data-note">
         <source>Kiv cannot tell over which radio a page comes. Where the phone has two SIM cards, try each.</source>
-        <translation>‏Kiv אינו יכול לדעת דרך איזה רדיו מגיע דף. בטלפון עם שני כרטיסי SIM נסו את שניהם.</translation>
+        <translation>‏Kiv אינו יכול לדעת דרך איזה חיבור הגיע הדף. בטלפון עם שני כרטיסי SIM נסו את שניהם.</translation>
     </message>
     <message id="kiv-data-good">
         <source>The operator loaded a web page over mobile data.</source>
@@ -1945,7 +1925,7 @@
     </message>
     <message id="kiv-voice-heard-bad">
         <source>SIM card %1: the other end could not be heard.</source>
-        <translation>כרטיס SIM %1: לא שמעו את הצד השני.</translation>
+        <translation>כרטיס SIM %1: הצד השני לא נשמע.</translation>
     </message>
     <message id="kiv-voice-clear">
         <source>SIM card %1: did the call break off, crackle or echo?</source>
@@ -2105,7 +2085,6 @@
     </message>
     <message id="kiv-keylight-instructions">
         <source>Look at the keys beside the panel. If they have no light, choose Skip.</source>
-        <oldsource>Look at the keys beside the panel. If they have no light, choose Not applicable.</oldsource>
         <translation>הביטו במקשים שליד הצג. אם אין להם תאורה, בחרו &quot;דילוג&quot;.</translation>
     </message>
     <message id="kiv-keylight-note">
@@ -2210,7 +2189,7 @@
     </message>
     <message id="kiv-lcd-again">
         <source>Show the dots again</source>
-        <translation>להציג שוב את הנקודות</translation>
+        <translation>הצגה חוזרת של הנקודות</translation>
     </message>
     <message id="kiv-lcd-spot">
         <source>Was a dot, line or stain in a picture that does not belong there?</source>
@@ -2234,7 +2213,7 @@
     </message>
     <message id="kiv-lcd-pictures-again">
         <source>Show the pictures again</source>
-        <translation>להציג שוב את התמונות</translation>
+        <translation>הצגה חוזרת של התמונות</translation>
     </message>
     <message id="kiv-backlight-instructions">
         <source>Look at the white panel: is the light even up to the edges? Tap, and watch whether it becomes brighter or darker.</source>
@@ -2258,15 +2237,15 @@
     </message>
     <message id="kiv-backlight-again">
         <source>Show it again</source>
-        <translation>להציג שוב</translation>
+        <translation>הצגה חוזרת</translation>
     </message>
     <message id="kiv-backlight-uneven">
         <source>Was the white uneven, or did it flicker?</source>
-        <translation>האם הלבן לא היה אחיד, או הבהב?</translation>
+        <translation>האם היו הבדלי בהירות בלבן, או שהוא הבהב?</translation>
     </message>
     <message id="kiv-backlight-uneven-bad">
         <source>The backlight is uneven or flickers.</source>
-        <translation>תאורת הצג אינה אחידה או מהבהבת.</translation>
+        <translation>בתאורת הצג יש הבדלי בהירות, או שהיא מהבהבת.</translation>
     </message>
     <message id="kiv-backlight-follows">
         <source>Set the brightness in the phone&apos;s own settings to the lowest and the highest. Does the light follow?</source>
@@ -2282,7 +2261,7 @@
     </message>
     <message id="kiv-backlight-white-again">
         <source>Show the white panel again</source>
-        <translation>להציג שוב את הצג הלבן</translation>
+        <translation>הצגה חוזרת של הצג הלבן</translation>
     </message>
     <message id="kiv-led-dark">
         <source>The light stayed dark while the phone was charging.</source>
@@ -2367,7 +2346,7 @@
     </message>
     <message id="kiv-vibrator-none">
         <source>None</source>
-        <translation>אף אחד</translation>
+        <translation>אף רטט</translation>
     </message>
     <message id="kiv-summary-code">
         <source>Code for the station</source>
@@ -2400,7 +2379,7 @@
     </message>
     <message id="kiv-engineer-probe">
         <source>Look what the phone has</source>
-        <translation>לבדוק מה יש בטלפון</translation>
+        <translation>בדיקה מה יש בטלפון</translation>
     </message>
     <message id="kiv-engineer-tests">
         <source>Tests</source>
@@ -2420,11 +2399,11 @@
     </message>
     <message id="kiv-run-in-exercised">
         <source>It ran without trouble.</source>
-        <translation>רץ בלי תקלות.</translation>
+        <translation>רצה בלי תקלות.</translation>
     </message>
     <message id="kiv-run-in-timeout">
         <source>It came to no result in time.</source>
-        <translation>לא הגיע לתוצאה בזמן.</translation>
+        <translation>לא הגיעה לתוצאה בזמן.</translation>
     </message>
     <message id="kiv-run-in-end-time">
         <source>The time is up.</source>
@@ -2432,7 +2411,7 @@
     </message>
     <message id="kiv-run-in-end-failure">
         <source>It stopped at the first failure.</source>
-        <translation>נעצר בכישלון הראשון.</translation>
+        <translation>נעצרה בכישלון הראשון.</translation>
     </message>
     <message id="kiv-run-in-end-temperature">
         <source>The battery reached %1.</source>
@@ -2446,7 +2425,7 @@
     </message>
     <message id="kiv-run-in-end-operator">
         <source>The operator ended it.</source>
-        <translation>המפעיל עצר אותו.</translation>
+        <translation>המפעיל עצר אותה.</translation>
     </message>
     <message id="kiv-run-in-progress">
         <source>Loop %1, test %2 of %3</source>
@@ -2460,7 +2439,6 @@
     </message>
     <message id="kiv-run-in-intro">
         <source>Hours: %1. Meanwhile the phone repeats these tests and needs nobody:</source>
-        <oldsource>%2 tests run over and over for %1 hours. The phone needs nobody meanwhile.</oldsource>
         <extracomment>A number of hours</extracomment>
         <translation>שעות: %1. בזמן הזה הטלפון חוזר על הבדיקות האלה ואינו זקוק לאיש:</translation>
     </message>
@@ -2475,20 +2453,20 @@
     </message>
     <message id="kiv-run-in-stop-on-failure">
         <source>Stop at the first failure</source>
-        <translation>לעצור בכישלון הראשון</translation>
+        <translation>עצירה בכישלון הראשון</translation>
     </message>
     <message id="kiv-run-in-go-on">
         <source>Go on after a failure</source>
-        <translation>להמשיך אחרי כישלון</translation>
+        <translation>המשך אחרי כישלון</translation>
     </message>
     <message id="kiv-run-in-limit">
         <source>Stop when the battery reaches %1</source>
         <extracomment>A temperature</extracomment>
-        <translation>לעצור כשהסוללה מגיעה ל־⁨%1⁩</translation>
+        <translation>עצירה כשהסוללה מגיעה ל־⁨%1⁩</translation>
     </message>
     <message id="kiv-run-in-no-limit">
         <source>Do not stop for the battery&apos;s temperature</source>
-        <translation>לא לעצור בגלל חום הסוללה</translation>
+        <translation>בלי עצירה בגלל חום הסוללה</translation>
     </message>
     <message id="kiv-run-in-machine-start">
         <source>This phone was started on %1. A run-in that began earlier and left no result was ended by that start.</source>
@@ -2560,7 +2538,7 @@
     </message>
     <message id="kiv-overrule-cancel">
         <source>Keep the measured verdict</source>
-        <translation>להשאיר את התוצאה שנמדדה</translation>
+        <translation>השארת התוצאה שנמדדה</translation>
     </message>
     <message id="kiv-skip-title">
         <source>Why is this test skipped?</source>
@@ -2580,7 +2558,7 @@
     </message>
     <message id="kiv-skip-later">
         <source>It is tested elsewhere or later</source>
-        <translation>נבדק במקום אחר או מאוחר יותר</translation>
+        <translation>הבדיקה נעשית במקום אחר או מאוחר יותר</translation>
     </message>
     <message id="kiv-skip-not-fitted">
         <source>This model is not meant to have this part</source>
@@ -2588,7 +2566,7 @@
     </message>
     <message id="kiv-skip-cancel">
         <source>Go on testing</source>
-        <translation>להמשיך לבדוק</translation>
+        <translation>המשך הבדיקה</translation>
     </message>
     <message id="kiv-timeout-title">
         <source>Time is up</source>
@@ -2601,7 +2579,7 @@
     </message>
     <message id="kiv-timeout-wait">
         <source>Give it more time</source>
-        <translation>לתת עוד זמן</translation>
+        <translation>עוד זמן</translation>
     </message>
     <message id="kiv-verdict-skip">
         <source>Skip</source>
@@ -2710,11 +2688,11 @@
     </message>
     <message id="kiv-bluetooth-searched">
         <source>The address is in order, and the radio searched.</source>
-        <translation>הכתובת תקינה, והרדיו סיים לחפש.</translation>
+        <translation>הכתובת תקינה, ורכיב הרדיו סיים לחפש.</translation>
     </message>
     <message id="kiv-wifi-found">
         <source>The address is in order, and the radio was found.</source>
-        <translation>הכתובת תקינה, והרדיו נמצא.</translation>
+        <translation>הכתובת תקינה, ורכיב הרדיו נמצא.</translation>
     </message>
     <message id="kiv-layout-direction">
         <source>LTR</source>
