@@ -21,8 +21,8 @@ Column {
 
             // What is too long to stand beside its name stands below it.
             readonly property real room: width - mark.width - Theme.gap
-            readonly property bool stacked: metrics.advanceWidth > 0.5 * room
-                                            || metrics.advanceWidth + longest.advanceWidth + 2 * Theme.gap > room
+            readonly property bool stacked: valueWidth > 0.5 * room
+                                            || valueWidth + longest.advanceWidth + 2 * Theme.gap > room
 
             width: table.width
             height: (stacked ? names.height + value.height : Math.max(names.height, value.height)) + 1.5 * Theme.unit
@@ -30,7 +30,11 @@ Column {
             Accessible.name: [reading.name, reading.valueText, reading.limitsText, reading.resultText]
                              .filter(function(part) { return part !== ""; }).join(", ")
 
-            // A text whose own width followed its contents would lay itself out for the width before.
+            // A text whose own width followed its contents would lay itself out for the width before. A letter
+            // may reach beyond its advance, a slanted Chinese one the most, and a text breaks rather than let it.
+            readonly property real valueWidth: Math.ceil(metrics.advanceWidth
+                                                         + (value.font.italic ? 0.5 : 0.1) * value.font.pixelSize)
+
             TextMetrics {
                 id: metrics
                 font: value.font
@@ -67,7 +71,7 @@ Column {
                 id: value
                 anchors.right: mark.left
                 anchors.rightMargin: Theme.gap
-                width: line.stacked ? line.room : Math.ceil(metrics.advanceWidth) + 1
+                width: line.stacked ? line.room : line.valueWidth
                 y: line.stacked ? names.y + names.height : (parent.height - height) / 2
                 horizontalAlignment: line.stacked ? Text.AlignLeft : Text.AlignRight
                 text: line.reading.valueText

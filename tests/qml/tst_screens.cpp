@@ -104,7 +104,11 @@ void findFaults(const QQuickItem *item, const QQuickItem *root, qreal unit, QStr
             *faults << QStringLiteral("outside its button: %1").arg(text);
         // A word that had to be broken in the middle: no line is as wide as it. Chinese breaks after any character.
         const QFontMetricsF metrics(item->property("font").value<QFont>());
-        const QStringList words = item->property("text").toString().split(WordBreak);
+        const QString whole = item->property("text").toString();
+        if (item->property("textFormat").toInt() == Qt::PlainText && item->property("lineCount").toInt() > 1
+            && !whole.contains(QLatin1Char('\n')) && metrics.horizontalAdvance(whole) <= item->width())
+            *faults << QStringLiteral("in several lines that would fit into one: %1").arg(text);
+        const QStringList words = whole.split(WordBreak);
         for (const QString &word : words) {
             if (item->property("textFormat").toInt() == Qt::PlainText
                 && metrics.horizontalAdvance(word) > item->width() + 1 && !word.contains(QLatin1Char('/'))
