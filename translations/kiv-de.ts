@@ -2709,12 +2709,12 @@
     </message>
     <message id="kiv-led-step-switch">
         <source>Say what it does while Kiv switches charging off and on</source>
-        <translation>Sagen Sie, was sie zeigt, während Kiv das Laden aus- und einschaltet</translation>
+        <translation>Angeben, was sie zeigt, während Kiv das Laden ab- und einschaltet</translation>
     </message>
     <message id="kiv-led-good-switched">
         <source>The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off.</source>
         <extracomment>What the operator saw of the notification light</extracomment>
-        <translation>Der Prüfer hat die Leuchte beim Laden gesehen (%1), und dunkel, sooft Kiv das Laden ausgeschaltet hatte.</translation>
+        <translation>Der Prüfer hat die Leuchte beim Laden gesehen (%1), und dunkel, sooft Kiv das Laden abgeschaltet hatte.</translation>
     </message>
     <message id="kiv-led-by-hand">
         <source>The answers do not fit: perhaps this light does not follow the charging. Look again, and unplug the charger yourself.</source>
