@@ -6,11 +6,14 @@
 #include <QCamera>
 #include <QCameraControl>
 #include <QCameraFlashControl>
+#include <QCameraInfoControl>
 #include <QFile>
+#include <QGuiApplication>
 #include <QImage>
 #include <QMediaService>
 #include <QMediaServiceProviderPlugin>
 #include <QPainter>
+#include <QScreen>
 #include <QTimer>
 #include <QVideoDeviceSelectorControl>
 #include <QVideoFrame>
@@ -39,6 +42,22 @@ QList<QByteArray> camerasThatAreThere()
             there.append(name);
     }
     return there;
+}
+
+QCamera::Position positionOf(const QByteArray &camera)
+{
+    return camera == "front" ? QCamera::FrontFace : camera == "back" ? QCamera::BackFace : QCamera::UnspecifiedPosition;
+}
+
+/*!
+ * Mounted so that the picture stands upright on a phone that is held so. An X server says of every screen that it lies,
+ * and Qt turns the picture accordingly.
+ */
+int orientationOf(const QByteArray &camera)
+{
+    const QScreen *const screen = QGuiApplication::primaryScreen();
+    const int turned = screen->angleBetween(screen->nativeOrientation(), screen->orientation());
+    return positionOf(camera) == QCamera::FrontFace ? (360 - turned) % 360 : turned;
 }
 
 class Renderer : public QVideoRendererControl
@@ -204,6 +223,17 @@ private:
     int m_moment = 0;
 };
 
+class Info : public QCameraInfoControl
+{
+    Q_OBJECT
+
+public:
+    explicit Info(QObject *parent) : QCameraInfoControl(parent) { }
+
+    QCamera::Position cameraPosition(const QString &device) const override { return positionOf(device.toLatin1()); }
+    int cameraOrientation(const QString &device) const override { return orientationOf(device.toLatin1()); }
+};
+
 class CameraService : public QMediaService
 {
     Q_OBJECT
@@ -214,6 +244,7 @@ public:
           m_selector(new Selector(this)),
           m_renderer(new Renderer(this)),
           m_flash(new Flash(m_selector, this)),
+          m_info(new Info(this)),
           m_control(new Control(m_selector, m_renderer, this))
     {
     }
@@ -228,6 +259,8 @@ public:
             return m_selector;
         if (qstrcmp(name, QCameraFlashControl_iid) == 0)
             return m_flash;
+        if (qstrcmp(name, QCameraInfoControl_iid) == 0)
+            return m_info;
         return nullptr;
     }
     void releaseControl(QMediaControl *) override { }
@@ -236,6 +269,7 @@ private:
     Selector *const m_selector;
     Renderer *const m_renderer;
     Flash *const m_flash;
+    Info *const m_info;
     Control *const m_control;
 };
 }
@@ -260,13 +294,8 @@ public:
         return QString::fromLatin1(device);
     }
     QByteArray defaultDevice(const QByteArray &) const override { return camerasThatAreThere().value(0); }
-    QCamera::Position cameraPosition(const QByteArray &device) const override
-    {
-        return device == "front" ? QCamera::FrontFace
-            : device == "back"   ? QCamera::BackFace
-                                 : QCamera::UnspecifiedPosition;
-    }
-    int cameraOrientation(const QByteArray &) const override { return 0; }
+    QCamera::Position cameraPosition(const QByteArray &device) const override { return positionOf(device); }
+    int cameraOrientation(const QByteArray &device) const override { return orientationOf(device); }
 };
 
 #include "cameras.moc"
