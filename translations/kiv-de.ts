@@ -2722,11 +2722,11 @@
     </message>
     <message id="kiv-key-volume-up">
         <source>Volume up</source>
-        <translation>Lautstärke lauter</translation>
+        <translation>Lauter-Taste</translation>
     </message>
     <message id="kiv-key-volume-down">
         <source>Volume down</source>
-        <translation>Lautstärke leiser</translation>
+        <translation>Leiser-Taste</translation>
     </message>
     <message id="kiv-key-power">
         <source>Power key</source>
