@@ -125,6 +125,7 @@ TestPage {
         name: qsTrId("kiv-ecompass-directions")
         value: 0
         minimum: page.sectors
+        counted: true
         settled: page.verdict !== ""
     }
     Measurement {

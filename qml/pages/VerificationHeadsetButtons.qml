@@ -28,6 +28,7 @@ TestPage {
     property int held: 0
     property int seen: 0
     property int total: 0
+    property bool jackFound: false
     readonly property int seenCount: buttons.filter(function(button) { return page.seen & button.mask; }).length
 
     function follow() {
@@ -51,6 +52,7 @@ TestPage {
     onOpened: {
         headset.openDevice();
         headset.openButtonDevice();
+        jackFound = headset.deviceFound();
         total = headset.buttonCount();
         //% "No headset buttons were found."
         missing = headset.buttonsFound() ? "" : qsTrId("kiv-headset-buttons-missing");
@@ -106,7 +108,7 @@ TestPage {
     Measurement {
         id: socket
         name: qsTrId("kiv-headset-socket")
-        value: !headset.deviceFound() ? undefined
+        value: !page.jackFound ? undefined
                : headset.headsetInserted ? qsTrId("kiv-headset-headset")
                : headset.headphoneInserted ? qsTrId("kiv-headset-headphones")
                : headset.microphoneInserted ? qsTrId("kiv-headset-microphone") : qsTrId("kiv-headset-empty")
@@ -116,6 +118,7 @@ TestPage {
         //% "Buttons pressed"
         name: qsTrId("kiv-headset-buttons-pressed")
         minimum: 1
+        counted: true
         settled: page.verdict !== ""
         //: How many buttons the phone can tell apart
         //% "the phone knows %1"

@@ -116,6 +116,7 @@ TestPage {
         //% "Fingers at once"
         name: qsTrId("kiv-multi-touch-seen")
         minimum: page.enough
+        counted: true
         settled: page.verdict !== ""
     }
 }

@@ -143,6 +143,7 @@ TestPage {
         //% "Cells that reacted"
         name: qsTrId("kiv-touch-reacted")
         minimum: page.total
+        counted: true
         settled: page.verdict !== ""
     }
 }

@@ -15,10 +15,13 @@ QtObject {
     readonly property bool headsetInserted: open && Phone.headphones && Phone.microphone
     readonly property int buttonsPressed: buttonsOpen ? Phone.buttonsPressed : 0
 
-    function openDevice() { open = Phone.jackFound; }
-    function openButtonDevice() { buttonsOpen = Phone.buttonsFound; }
-    function deviceFound() { return open; }
-    function buttonsFound() { return buttonsOpen; }
-    function buttonCount() { return buttonsOpen ? Phone.buttonCount : 0; }
+    // What the calls below answer; no binding follows it.
+    readonly property var found: ({ jack: false, buttons: false })
+
+    function openDevice() { open = found.jack = Phone.jackFound; }
+    function openButtonDevice() { buttonsOpen = found.buttons = Phone.buttonsFound; }
+    function deviceFound() { return found.jack; }
+    function buttonsFound() { return found.buttons; }
+    function buttonCount() { return found.buttons ? Phone.buttonCount : 0; }
     function buttonPressed(button) { return (buttonsPressed & button) !== 0; }
 }

@@ -58,6 +58,8 @@ TestCase {
 
     function test_oneLimit() {
         compare(make({ value: 144, minimum: 144 }).result, "near");
+        compare(make({ value: 144, minimum: 144, counted: true }).result, "pass");
+        compare(make({ value: 143, minimum: 144, counted: true }).result, "fail");
         compare(make({ value: 143, minimum: 144 }).result, "fail");
         compare(make({ value: 100, maximum: 50 }).result, "fail");
         compare(make({ value: 10, maximum: 50 }).result, "pass");

@@ -284,6 +284,9 @@ Driver {
 
     function test_headsetButtons() {
         openTest("VerificationHeadsetButtons");
+        compare(value("Headset socket"), "Empty");
+        Phone.headphones = Phone.microphone = true;
+        compare(value("Headset socket"), "Headset");
         [HeadsetDetect.ButtonMisc, HeadsetDetect.Button1].forEach(function(button) {
             Phone.buttonsPressed = button;
             Phone.buttonsPressed = 0;
