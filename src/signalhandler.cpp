@@ -2,6 +2,7 @@
 #include "signalhandler.h"
 
 #include <QDebug>
+#include <QPointer>
 #include <QSocketNotifier>
 
 #include <cerrno>
@@ -62,9 +63,14 @@ void SignalHandler::handleTermSignal(int)
 
 void SignalHandler::signalReceived()
 {
-    m_notifier->setEnabled(false);
+    if (!m_notifier)
+        return;
+    // Whoever hears the signal may destroy this object.
+    const QPointer<QSocketNotifier> notifier(m_notifier);
+    notifier->setEnabled(false);
     char byte = 0;
     if (::read(s_socketPair[ReadEnd], &byte, sizeof(byte)) == sizeof(byte) && byte == TermByte)
         Q_EMIT termSignalReceived();
-    m_notifier->setEnabled(true);
+    if (notifier)
+        notifier->setEnabled(true);
 }

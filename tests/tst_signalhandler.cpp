@@ -101,6 +101,9 @@ private Q_SLOTS:
     void emitsOncePerSignal();
     void emitsInItsOwnThread();
     void swallowsOtherBytes();
+    void isDeafWhileItEmits();
+    void bearsCallsWithoutPair();
+    void destroyedInItsOwnSignal();
     void keepsErrno();
     void survivesBurst();
     void withoutPairInstallsNothing();
@@ -206,6 +209,62 @@ void tst_SignalHandler::swallowsOtherBytes()
     QVERIFY(it.notifier->isEnabled());
     QCOMPARE(::write(it.writeEnd, "\1", 1), ssize_t(1));
     QTRY_COMPARE(spy.size(), 1);
+}
+
+void tst_SignalHandler::isDeafWhileItEmits()
+{
+    const Handler it;
+    int depth = 0;
+    int deepest = 0;
+    int emissions = 0;
+    connect(it.handler.get(), &SignalHandler::termSignalReceived, this, [&] {
+        ++emissions;
+        deepest = std::max(deepest, ++depth);
+        if (emissions == 1) {
+            // Somebody asks the user before the program ends, and a second signal arrives meanwhile.
+            QVERIFY(!it.notifier->isEnabled());
+            ::raise(SIGTERM);
+            QTest::qWait(100);
+            QCOMPARE(emissions, 1);
+        }
+        --depth;
+    });
+    ::raise(SIGTERM);
+    QTRY_COMPARE(emissions, 2);
+    QCOMPARE(deepest, 1);
+    QVERIFY(it.notifier->isEnabled());
+}
+
+void tst_SignalHandler::bearsCallsWithoutPair()
+{
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("The sanitizers look at objects through a pipe, for which no descriptor is left here");
+#endif
+    struct rlimit limit;
+    QCOMPARE(::getrlimit(RLIMIT_NOFILE, &limit), 0);
+    const struct rlimit none = {0, limit.rlim_max};
+    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    MessageLog log;
+    SignalHandler handler;
+    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &limit), 0);
+    QCOMPARE(log.all(), QStringList(NoPair));
+    QSignalSpy spy(&handler, &SignalHandler::termSignalReceived);
+    QVERIFY(QMetaObject::invokeMethod(&handler, "signalReceived"));
+    QCOMPARE(spy.size(), 0);
+}
+
+void tst_SignalHandler::destroyedInItsOwnSignal()
+{
+    Handler it;
+    bool destroyed = false;
+    connect(it.handler.get(), &SignalHandler::termSignalReceived, this, [&] {
+        it.handler.reset();
+        destroyed = true;
+    });
+    ::raise(SIGTERM);
+    QTRY_VERIFY(destroyed);
+    for (const int fd : it.descriptors)
+        QCOMPARE(::fcntl(fd, F_GETFD), -1);
 }
 
 void tst_SignalHandler::keepsErrno()
