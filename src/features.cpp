@@ -129,13 +129,6 @@ void enable(const QString (&names)[Size], Table *table)
         table->insert(name, true);
 }
 
-// Stricter than QVariant::toBool(), to which every text but "0", "false" and none is true.
-bool isTrue(const QVariant &value)
-{
-    const QString text = value.toString();
-    return text == QLatin1String("1") || text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0;
-}
-
 /*! Takes the group's values over into the table. False when no file has anything in the group. */
 bool readTable(const QString &filter, const QString &group, Table *table)
 {
@@ -145,7 +138,7 @@ bool readTable(const QString &filter, const QString &group, Table *table)
     settings->beginGroup(group);
     const QStringList names = settings->childKeys();
     for (const QString &name : names)
-        table->insert(name, isTrue(settings->value(name)));
+        table->insert(name, saysYes(settings->value(name)));
     return !names.isEmpty();
 }
 

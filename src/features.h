@@ -11,8 +11,8 @@
  *
  * Each of the three tables comes from the device adaptation's settings (see loadSettings()), where the group holds
  * lines such as "Hall=true": the features from the group "features" of the files "*hw-settings*.ini", the sequences
- * from the group "tests" of the files "*factory-tests*.ini" and "*run-in-tests*.ini". A value other than true (or 1)
- * counts as false. Where there is no such group, the hardware is probed and the usual tests are enabled.
+ * from the group "tests" of the files "*factory-tests*.ini" and "*run-in-tests*.ini". A value counts as true
+ * as saysYes() has it. Where there is no such group, the hardware is probed and the usual tests are enabled.
  *
  * Everything is decided at construction, which can block for minutes when the platform's tools hang.
  */

@@ -40,6 +40,12 @@ Value converted(const QVariant &value)
 }
 
 template<>
+bool converted<bool>(const QVariant &value)
+{
+    return saysYes(value);
+}
+
+template<>
 qint32 converted<qint32>(const QVariant &value)
 {
     bool ok = false;

@@ -108,3 +108,10 @@ std::unique_ptr<QSettings> loadSettings(const QString &filter)
     }
     return settings;
 }
+
+bool saysYes(const QVariant &value)
+{
+    // Stricter than QVariant::toBool(), to which every text but "0", "false" and none is true.
+    const QString text = value.toString();
+    return text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0 || text.toLongLong() != 0;
+}

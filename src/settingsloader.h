@@ -16,4 +16,7 @@
  */
 std::unique_ptr<QSettings> loadSettings(const QString &filter);
 
+/*! Whether a value of a settings file says yes: "true" in any case, or an integer other than 0. */
+bool saysYes(const QVariant &value);
+
 #endif

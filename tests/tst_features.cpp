@@ -697,6 +697,7 @@ void tst_Features::readsValues_data()
     QTest::newRow("quoted") << QByteArray("\"true\"") << true;
     QTest::newRow("1") << QByteArray("1") << true;
     QTest::newRow("0") << QByteArray("0") << false;
+    QTest::newRow("another number") << QByteArray("2") << true;
     QTest::newRow("missing") << QByteArray("") << false;
     QTest::newRow("unknown") << QByteArray("perhaps") << false;
     QTest::newRow("list") << QByteArray("true, true") << false;

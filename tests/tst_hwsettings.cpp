@@ -228,6 +228,8 @@ void tst_HwSettings::readsKeys_data()
     other("flash 1", "BackCamera", "Flash", "1", "backCameraFlash", true, "true");
     other("flash FALSE", "BackCamera", "Flash", "FALSE", "backCameraFlash", false, "false");
     other("flash empty", "BackCamera", "Flash", "", "backCameraFlash", false, "false");
+    other("flash number", "BackCamera", "Flash", "2", "backCameraFlash", true, "true");
+    other("flash text", "BackCamera", "Flash", "perhaps", "backCameraFlash", false, "false");
     other("flash list", "BackCamera", "Flash", "true, true", "backCameraFlash", false, "false");
     other("LED", "LED", "LedType", "White", "ledType", QStringLiteral("White"), "\"White\"");
     other("LED empty", "LED", "LedType", "", "ledType", QString(), "\"\"");
@@ -265,6 +267,7 @@ void tst_HwSettings::readsKeys_data()
     rejected("gyro min rejected", "Gyro", "Min", "x", "gyroMin", -1.3F, "0");
     rejected("gyro max rejected", "Gyro", "Max", "", "gyroMax", 1.3F, "0");
     other("voltage", "Battery", "VoltageTest", "false", "batteryVoltageTest", false, "false");
+    other("voltage text", "Battery", "VoltageTest", "mV", "batteryVoltageTest", false, "false");
     other("source", "Audio", "InputSource", "droid", "audioInputSource", QStringLiteral("droid"), "\"droid\"");
     other("top", "Audio", "RecordTopDevice", "t", "recordTopDevice", QStringLiteral("t"), "\"t\"");
     other("bottom", "Audio", "RecordBottomDevice", "b", "recordBottomDevice", QStringLiteral("b"), "\"b\"");
@@ -357,6 +360,7 @@ void tst_HwSettings::singleColorWins_data()
     QTest::newRow("single alone") << QByteArray("SingleColor=true\n") << QStringLiteral("Binary");
     QTest::newRow("not single") << QByteArray("SingleColor=false\nLedType=White\n") << QStringLiteral("White");
     QTest::newRow("not single, no type") << QByteArray("SingleColor=false\n") << QStringLiteral("RGB");
+    QTest::newRow("unknown") << QByteArray("SingleColor=perhaps\nLedType=White\n") << QStringLiteral("White");
     QTest::newRow("empty") << QByteArray("SingleColor=\nLedType=White\n") << QStringLiteral("White");
 }
 
