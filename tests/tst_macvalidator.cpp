@@ -3,6 +3,7 @@
 #include "macvalidator.h"
 #include "messagelog.h"
 #include "metaobject.h"
+#include "ordinaryuser.h"
 
 #include <QQmlEngine>
 #include <QtTest>
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void readsBluetoothAddress_data();
     void readsBluetoothAddress();
     void hasNoBluetoothAddress();
+    void cannotReadBluetoothAddress();
     void readsWirelessAddress_data();
     void readsWirelessAddress();
     void hasNoWirelessAddress();
@@ -123,6 +125,20 @@ void tst_MacValidator::hasNoBluetoothAddress()
     QVERIFY(QFile::link(QStringLiteral("/nowhere"), BoardAddress));
     QCOMPARE(validator.getMac(Bluetooth), QString());
     QCOMPARE(log.all(), QStringList());
+}
+
+void tst_MacValidator::cannotReadBluetoothAddress()
+{
+    writeFile(BoardAddress, "00:11:22:aa:bb:cc\n", QFile::WriteOwner);
+    const Verdict verdict = asOrdinaryUser([] {
+        const MacValidator validator;
+        const MessageLog log;
+        return validator.getMac(Bluetooth).isEmpty() && !validator.isMacValid(Bluetooth)
+            && log.all() == QStringList{QStringLiteral("Mac of type: \"bluetooth\" is empty/unspecified.")};
+    });
+    if (verdict == Verdict::NoSuchUser)
+        QSKIP("another user is needed");
+    QCOMPARE(verdict, Verdict::True);
 }
 
 void tst_MacValidator::readsWirelessAddress_data()

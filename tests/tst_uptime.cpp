@@ -3,6 +3,7 @@
 
 #include "files.h"
 #include "metaobject.h"
+#include "ordinaryuser.h"
 
 #include <QAbstractEventDispatcher>
 #include <QDir>
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void readsLoads_data();
     void readsLoads();
     void loadsAreZeroWithoutFile();
+    void readsNothingUnreadable();
     void refreshesEveryTenSeconds();
     void refreshFindsNewLoads();
     void signalsWithoutChange();
@@ -203,6 +205,25 @@ void tst_Uptime::loadsAreZeroWithoutFile()
     QCOMPARE(uptime.loadAverage1(), 0.0);
     QCOMPARE(uptime.loadAverage5(), 0.0);
     QCOMPARE(uptime.loadAverage15(), 0.0);
+}
+
+void tst_Uptime::readsNothingUnreadable()
+{
+    replace(UptimeFile, "100.9 50.0\n");
+    replace(LoadFile, "1.5 2.5 3.5 1/100 999\n");
+    Uptime uptime;
+    QCOMPARE(uptime.loadAverage1(), 1.5);
+    QVERIFY(QFile::setPermissions(UptimeFile, QFile::WriteOwner));
+    QVERIFY(QFile::setPermissions(LoadFile, QFile::WriteOwner));
+    const Verdict verdict = asOrdinaryUser([&uptime] {
+        const QSignalSpy spy(&uptime, &Uptime::loadAverageChanged);
+        tick(&uptime);
+        return spy.size() == 1 && uptime.loadAverage1() == 0 && uptime.loadAverage5() == 0
+            && uptime.loadAverage15() == 0 && uptime.machineStart().isValid() && !Uptime().machineStart().isValid();
+    });
+    if (verdict == Verdict::NoSuchUser)
+        QSKIP("another user is needed");
+    QCOMPARE(verdict, Verdict::True);
 }
 
 void tst_Uptime::refreshesEveryTenSeconds()
