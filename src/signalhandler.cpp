@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <utility>
 
+#include <fcntl.h>
 #include <signal.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -23,13 +24,18 @@ int SignalHandler::s_socketPair[2] = {-1, -1};
 
 SignalHandler::SignalHandler(QObject *parent) : QObject(parent)
 {
-    // Non-blocking, or a burst of signals would hang the process in the handler while its own thread is the reader.
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, s_socketPair) != 0) {
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, s_socketPair) != 0) {
         qWarning() << "Could not create socket pair for TERM signal handler, device state may not be restored on "
                       "termination.";
         s_socketPair[WriteEnd] = -1;
         s_socketPair[ReadEnd] = -1;
         return;
+    }
+    for (const int end : s_socketPair) {
+        // No child is started yet that could inherit them in between.
+        ::fcntl(end, F_SETFD, FD_CLOEXEC);
+        // Or a burst of signals would hang the process in the handler while its own thread is the reader.
+        ::fcntl(end, F_SETFL, O_NONBLOCK);
     }
 
     m_notifier = new QSocketNotifier(s_socketPair[ReadEnd], QSocketNotifier::Read, this);

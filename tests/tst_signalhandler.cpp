@@ -34,6 +34,9 @@ const QString NoAction =
 /*! What installing a handler for SIGTERM returns without installing one; 0 lets it through. */
 int refusal = 0;
 
+/*! How the last pair was asked for. */
+QVector<int> pairArguments;
+
 /*! What a socketpair() that fails leaves in the caller's array; negative lets the call through. */
 int leftover = -1;
 
@@ -95,6 +98,7 @@ extern "C" int socketpair(int domain, int type, int protocol, int ends[2]) noexc
 {
     using Function = int (*)(int, int, int, int *);
     static const auto next = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, "socketpair"));
+    pairArguments = {domain, type, protocol};
     if (leftover < 0)
         return next(domain, type, protocol, ends);
     ends[0] = leftover;
@@ -148,6 +152,7 @@ void tst_SignalHandler::makesConnectedStreamPair()
 {
     MessageLog log;
     const Handler it;
+    QCOMPARE(pairArguments, (QVector<int>{AF_UNIX, SOCK_STREAM, 0}));
     QVERIFY(it.notifier);
     QCOMPARE(it.notifier->parent(), it.handler.get());
     QCOMPARE(it.notifier->type(), QSocketNotifier::Read);
@@ -161,6 +166,7 @@ void tst_SignalHandler::makesConnectedStreamPair()
         QCOMPARE(type, int(SOCK_STREAM));
         QCOMPARE(family, AF_UNIX);
         QVERIFY(::fcntl(fd, F_GETFD) & FD_CLOEXEC); // the children have no use for it
+        QVERIFY(::fcntl(fd, F_GETFL) & O_NONBLOCK);
     }
     QVERIFY(log.all().isEmpty());
 }
