@@ -137,6 +137,7 @@ private Q_SLOTS:
     void tellsWhyNoJackIsTaken();
     void opensJackWhoseStatesCannotBeRead();
     void tellsWhyButtonsAreTaken();
+    void tellsTheNameOfEveryButton();
     void tellsWhyNoButtonsAreTaken_data();
     void tellsWhyNoButtonsAreTaken();
     void showsWarningsOnlyByDefault();
@@ -565,6 +566,25 @@ void tst_HeadsetDetect::tellsWhyButtonsAreTaken()
                  "Found button device \"/dev/input/event0\"",
              }));
     QCOMPARE(log.all(), log.debugs());
+}
+
+void tst_HeadsetDetect::tellsTheNameOfEveryButton()
+{
+    const DebugShown shown;
+    InputDevice device("event0");
+    // By number, as the kernel and its drivers have them.
+    device.add(EV_KEY, {164, 226, 265, 264, 263, 262, 261, 260, 259, 258, 257, 256}).publish();
+    MessageLog log;
+    HeadsetDetect detect;
+    detect.openButtonDevice();
+    QStringList expected = texts({"Device \"/dev/input/event0\" is of type EV_KEY"});
+    for (const char *const name : {"BTN_MISC", "BTN_1", "BTN_2", "BTN_3", "BTN_4", "BTN_5", "BTN_6", "BTN_7", "BTN_8",
+                                   "BTN_9", "KEY_MEDIA", "KEY_PLAYPAUSE"})
+        expected << QStringLiteral("Device \"/dev/input/event0\" has capability ") + QLatin1String(name);
+    expected << texts(
+        {"Device \"/dev/input/event0\" has max 12 buttons.", "Found button device \"/dev/input/event0\""});
+    QCOMPARE(log.debugs(), expected);
+    QCOMPARE(log.all(), expected);
 }
 
 void tst_HeadsetDetect::tellsWhyNoButtonsAreTaken_data()
