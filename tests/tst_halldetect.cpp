@@ -75,6 +75,7 @@ private Q_SLOTS:
     void keepsQuietWhenReopenedUnchanged();
     void tellsWhatChangedWhileClosed();
     void readsNothingStaleAfterReopening();
+    void reopeningClosesFirst();
     void closesWithObject();
     void leaksNoDescriptor();
 
@@ -581,6 +582,18 @@ void tst_HallDetect::readsNothingStaleAfterReopening()
     QCoreApplication::processEvents();
     QCOMPARE(device.reads(), 0);
     QCOMPARE(spy.count(), 1);
+}
+
+void tst_HallDetect::reopeningClosesFirst()
+{
+    InputDevice device = lidSwitch("event0");
+    HallDetect hall;
+    hall.openFile();
+    const auto watched = [&hall] { return int(hall.findChild<QSocketNotifier *>()->socket()); };
+    const int descriptor = watched();
+    hall.openFile();
+    // The lowest number that is free is the old one, if that is closed by then.
+    QCOMPARE(watched(), descriptor);
 }
 
 void tst_HallDetect::closesWithObject()

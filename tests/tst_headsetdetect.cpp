@@ -166,6 +166,7 @@ private Q_SLOTS:
     void readsLongStreamsInWholeRecords();
 
     void reopeningForgetsSilently();
+    void reopeningClosesFirst();
     void reopeningReadsNothingStale();
     void reopeningWithoutDevice();
     void jackAndButtonsAreIndependent();
@@ -1086,6 +1087,30 @@ void tst_HeadsetDetect::reopeningForgetsSilently()
     QCOMPARE(jackState(detect), 0);
     QCOMPARE(device.readers(), 1);
     QCOMPARE(keys.readers(), 1);
+}
+
+void tst_HeadsetDetect::reopeningClosesFirst()
+{
+    InputDevice device = jack("event0");
+    InputDevice keys = buttons("event1");
+    const auto watched = [](const HeadsetDetect &detect) {
+        const auto notifiers = detect.findChildren<QSocketNotifier *>();
+        return notifiers.size() == 1 ? int(notifiers.first()->socket()) : -1;
+    };
+    // Whatever is opened gets the lowest number that is free: the old one, if that is closed by then.
+    HeadsetDetect jackOnly;
+    jackOnly.openDevice();
+    const int jackDescriptor = watched(jackOnly);
+    QVERIFY(jackDescriptor >= 0);
+    jackOnly.openDevice();
+    QCOMPARE(watched(jackOnly), jackDescriptor);
+
+    HeadsetDetect buttonsOnly;
+    buttonsOnly.openButtonDevice();
+    const int buttonDescriptor = watched(buttonsOnly);
+    QVERIFY(buttonDescriptor >= 0);
+    buttonsOnly.openButtonDevice();
+    QCOMPARE(watched(buttonsOnly), buttonDescriptor);
 }
 
 void tst_HeadsetDetect::reopeningReadsNothingStale()
