@@ -21,10 +21,14 @@ Item {
     readonly property alias screen: screens.item
     /*! A call that blocks is about to be made or is being made. */
     readonly property bool busy: working.item !== null && working.item.visible
-    /*! The pages of the chosen sequence, held so that the engine keeps them. */
-    property var pages: []
+    /*! The pages of the chosen sequence that have not been closed yet: file to component, held so that the engine keeps
+     *  them. */
+    property var pages: ({})
     /*! Whether the present test was opened by itself from the list. */
     property bool single: false
+
+    /*! A page is gone; what it needed can be given back. */
+    signal pageClosed()
 
     implicitWidth: 360
     implicitHeight: 640
@@ -65,17 +69,25 @@ Item {
 
     /*! Loads the pages of a sequence, so that each opens at once and the sequence needs no more memory as it goes on. */
     function preload() {
-        if (flow.mode === TestTable.AllTests) {
-            pages = [];
+        var held = {};
+        pages = held;
+        if (flow.mode === TestTable.AllTests)
             return;
-        }
-        var files = flow.ready.map(function(row) { return row.page; });
         flow.ready.forEach(function(row) {
-            if (row.part)
-                files.push(row.part);
+            [row.page, row.part].forEach(function(file) {
+                if (file)
+                    held[file] = Qt.createComponent("pages/" + file);
+            });
         });
-        pages = files.map(function(file) { return Qt.createComponent("pages/" + file); });
         cues.active = true;
+    }
+
+    /*! Lets go of a page that has been closed. The run-in keeps its pages, which come again. */
+    function release(file) {
+        // An object keeps what has been deleted from it.
+        if (pages[file])
+            pages[file] = null;
+        pageClosed();
     }
 
     function startRun(rows) {

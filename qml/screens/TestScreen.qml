@@ -42,8 +42,11 @@ Item {
     }
 
     function leave() {
-        if (page)
-            page.close();
+        if (!page)
+            return;
+        page.close();
+        // By its own row: the flow may be at the next one already.
+        shell.release(page.row.page);
     }
 
     function load() {

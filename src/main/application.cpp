@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "mediaregistry.h"
 #include "pagecache.h"
+#include "pagememory.h"
 #include "registration.h"
 #include "signalhandler.h"
 
@@ -90,6 +91,7 @@ extern "C" Q_DECL_EXPORT int kivApplicationMain(int argc, char **argv)
     view->rootContext()->setContextProperty(QStringLiteral("disclaimerText"), loadDisclaimer());
     view->setTitle(qtTrId("kiv-ap-name"));
     view->setSource(KestraneApp::pathTo(QStringLiteral("main.qml")));
+    const auto memory = std::make_unique<PageMemory>(view.get());
     view->showFullScreen();
 
     // For the camera pipelines that pages create from now on.

@@ -177,6 +177,23 @@ Driver {
         compare(find("start").text, "Start");
     }
 
+    function test_aClosedPageIsLetGo() {
+        Phone.factoryTests = ["VerificationHallDetect", "VerificationBattery"];
+        toList(TestTable.FactoryTests);
+        verify(!!shell.pages["VerificationHallDetect.qml"]);
+        verify(!!shell.pages["VerificationBattery.qml"]);
+        var closed = 0;
+        shell.pageClosed.connect(function() { ++closed; });
+        mouseClick(find("start"));
+        tryVerify(function() { return page.isOpen; });
+        compare(closed, 0);
+        tap("fail");
+        tryCompare(frame.row, "name", "VerificationBattery");
+        verify(closed > 0);
+        compare(shell.pages["VerificationHallDetect.qml"], null);
+        verify(!!shell.pages["VerificationBattery.qml"], "the next one is still at hand");
+    }
+
     function test_retryMakesThePageAnew() {
         openTest("VerificationHallDetect");
         Phone.hall = true;
