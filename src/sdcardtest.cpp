@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "sdcardtest.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QPointer>
@@ -39,10 +40,19 @@ bool mayBeOpened(const QString &path)
     return !file.isSymLink() && (!file.exists() || file.isFile());
 }
 
+// A pipe, or a link through which a file elsewhere would be changed or made. What else stands there fails the test.
+bool isInTheWay(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.isSymLink())
+        return !mayBeOpened(path);
+    return file.exists() ? file.isFile() : QFileInfo(file.symLinkTarget()).dir().exists();
+}
+
 // False when there is no such file afterwards. What could not be written shows when it is read back.
 bool writeTestFile(const QString &path)
 {
-    if (!mayBeOpened(path))
+    if (isInTheWay(path))
         QFile::remove(path);
     if (mayBeOpened(path)) {
         QFile file(path);

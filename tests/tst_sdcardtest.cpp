@@ -150,6 +150,8 @@ private Q_SLOTS:
     void ioTestWithLeftOver_data();
     void ioTestWithLeftOver();
     void ioTestDoesNotFollowLink();
+    void ioTestWithLinkThatCannotBeTested_data();
+    void ioTestWithLinkThatCannotBeTested();
     void ioTestDoesNotBlockOnPipe();
     void ioTestWithDirectoryInTheWay();
     void ioTestOnReadOnlyCard();
@@ -583,6 +585,7 @@ void tst_SdCardTest::ioTestWithLeftOver_data()
     QTest::newRow("longer by a bad pair, second") << Written + "VU" << 2;
     QTest::newRow("longer by small letters") << Written + "uu" << 2;
     QTest::newRow("longer by a zero") << Written + QByteArray(1, '\0') << 2;
+    QTest::newRow("longer by a carriage return, which text does not have") << Written + "\r" << 3;
     QTest::newRow("longer by a newline") << Written + "\n" << 2;
     QTest::newRow("much longer") << QByteArray(1 << 20, 'x') << 2;
 }
@@ -619,6 +622,30 @@ void tst_SdCardTest::ioTestDoesNotFollowLink()
     QCOMPARE(test.sdCardIOTest(), 3);
     QVERIFY(!QFile::exists(nothing));
     QVERIFY(!QFileInfo(directory.filePath(TestFile)).isSymLink());
+}
+
+void tst_SdCardTest::ioTestWithLinkThatCannotBeTested_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<int>("result");
+    QTest::newRow("device that takes nothing") << QStringLiteral("/dev/full") << 2;
+    QTest::newRow("device that keeps nothing") << QStringLiteral("/dev/null") << 2;
+    QTest::newRow("folder") << QStringLiteral("/dev") << 2;
+    QTest::newRow("file that cannot be made") << QStringLiteral("/dev/kiv-test/no-folder/file") << 1;
+}
+
+void tst_SdCardTest::ioTestWithLinkThatCannotBeTested()
+{
+    QFETCH(QString, target);
+    QFETCH(int, result);
+    const QTemporaryDir directory;
+    listPartitions({makePartition(Partition::Mounted, false, directory.path())});
+    SdCardTest test;
+    QVERIFY(QFile::link(target, directory.filePath(TestFile)));
+    QCOMPARE(test.sdCardIOTest(), result);
+    // Whatever came out, the next test finds a tidy card.
+    QVERIFY(!QFileInfo(directory.filePath(TestFile)).isSymLink());
+    QCOMPARE(test.sdCardIOTest(), 3);
 }
 
 void tst_SdCardTest::ioTestDoesNotBlockOnPipe()
