@@ -22,8 +22,11 @@ const QLatin1String IdProperty("ZELID");
 /*! The properties in a reply; none where it carries something else. */
 QVariantMap propertiesIn(const QDBusMessage &reply)
 {
+    const QVariant properties = reply.arguments().value(0);
+    if (properties.userType() != qMetaTypeId<QDBusArgument>())
+        return properties.toMap();
     // Demarshalling anything but exactly this into a map ends the process.
-    const auto marshalled = reply.arguments().value(0).value<QDBusArgument>();
+    const auto marshalled = properties.value<QDBusArgument>();
     if (marshalled.currentSignature() != QLatin1String("a{sv}"))
         return QVariantMap();
     return qdbus_cast<QVariantMap>(marshalled);

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void asksOnceAndOnlyForTheProperties();
     void startsNeutral();
     void takesAllProperties();
+    void takesPropertiesThatAreNotMarshalled();
     void appliesInKeyOrder();
     void convertsValues_data();
     void convertsValues();
@@ -184,6 +185,24 @@ void tst_Zel::takesAllProperties()
     QVERIFY(watched.zel.docked());
     QCOMPARE(watched.zel.zelId(), QStringLiteral("4711"));
     QVERIFY(!watched.zel.error());
+}
+
+void tst_Zel::takesPropertiesThatAreNotMarshalled()
+{
+    // Over the bus they always are; a call within the process is answered with the map itself.
+    const QDBusMessage call = QDBusMessage::createMethodCall(Service, Path, Properties, GetAll);
+    const QVariantMap cover{{Ready, 1}, {Docked, true}, {Id, QStringLiteral("cover")}};
+    Watched watched;
+    QTRY_VERIFY(!watched.waits());
+    watched.seen.clear();
+    const QPointer<QDBusPendingCallWatcher> watcher =
+        new QDBusPendingCallWatcher(QDBusPendingCall::fromCompletedCall(call.createReply(QVariant(cover))));
+    QVERIFY(QMetaObject::invokeMethod(&watched.zel, "getPropertiesFinished",
+                                      Q_ARG(QDBusPendingCallWatcher *, watcher.data())));
+    QCOMPARE(watched.seen,
+             QStringList({QStringLiteral("docked 1"), QStringLiteral("ready 1"), QStringLiteral("id 'cover'")}));
+    QVERIFY(!watched.zel.error());
+    QTRY_VERIFY(!watcher);
 }
 
 void tst_Zel::appliesInKeyOrder()
