@@ -310,6 +310,7 @@ void tst_AudioRoute::equalValuesAreNoChange()
     broadcast(RouteChanged, {QStringLiteral("x"), 0x9u});
     broadcast(RouteChanged, {QStringLiteral("y"), 0xau});
     broadcast(FeatureChanged, {Radio, 1u, 1u});
+    broadcast(FeatureChanged, {Radio, 1u, 2u}); // no less enabled
     QTest::qWait(50);
     QCOMPARE(spies.counts(), (QList<int>{1, 1, 1}));
     runDaemonElsewhere();

@@ -121,6 +121,7 @@ private Q_SLOTS:
     void followsStatusBroadcasts();
     void unavailableWhenProviderLeaves();
     void staysUnavailableSilently();
+    void staysWhenAnotherServiceLeaves();
     void errorWithoutProvider();
     void errorWhateverTheErrorSays();
     void errorWhenProviderDiesInMidCall();
@@ -306,6 +307,18 @@ void tst_Gps::staysUnavailableSilently()
     startProvider();
     broadcastStatus(2);
     QTRY_COMPARE(watched.statuses, QList<int>({2}));
+}
+
+void tst_Gps::staysWhenAnotherServiceLeaves()
+{
+    m_provider->answer(GetStatus, {3});
+    Watched watched;
+    QTRY_COMPARE(watched.statuses, QList<int>({3}));
+    QVERIFY(QMetaObject::invokeMethod(&watched.gps, "serviceUnregistered",
+                                      Q_ARG(QString, Service + QStringLiteral(".Other"))));
+    QCOMPARE(watched.statuses, QList<int>({3}));
+    QVERIFY(QMetaObject::invokeMethod(&watched.gps, "serviceUnregistered", Q_ARG(QString, Service)));
+    QCOMPARE(watched.statuses, QList<int>({3, 1}));
 }
 
 void tst_Gps::errorWithoutProvider()

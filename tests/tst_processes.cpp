@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -22,6 +23,7 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/mount.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 
@@ -170,6 +172,7 @@ private Q_SLOTS:
     void computesShares();
     void countsNoTimeAsNoShare();
     void staysAsItIsWithoutTotals();
+    void hidesItsRowsAgainAfterAnEmptyList();
     void namesFakeProcesses_data();
     void namesFakeProcesses();
     void namesFollowTheProcess();
@@ -632,6 +635,41 @@ void tst_Processes::staysAsItIsWithoutTotals()
     QVERIFY(rowOf(model, child.pid()) >= 0);
 }
 
+void tst_Processes::hidesItsRowsAgainAfterAnEmptyList()
+{
+    if (::mount("proc", "/proc", "tmpfs", MS_NOSUID, nullptr) != 0)
+        QSKIP("A file system cannot be mounted here");
+    const auto unmount = qScopeGuard([] { ::umount2("/proc", MNT_DETACH); });
+    const auto add = [] {
+        writeFile(said("/proc/77/cmdline"), "program");
+        writeFile(said("/proc/77/stat"), statLine("program", 1, 1));
+    };
+    writeFile(said("/proc/stat"), "cpu  1 2 3 4\n");
+    add();
+    Processes model;
+    refresh(&model);
+    QCOMPARE(model.count(), 1);
+
+    QSignalSpy resets(&model, &Processes::modelReset);
+    QSignalSpy counts(&model, &Processes::countChanged);
+    QVERIFY(QDir(said("/proc/77")).removeRecursively());
+    refresh(&model);
+    QCOMPARE(model.count(), 0);
+    QCOMPARE(resets.size(), 1);
+    QCOMPARE(counts.size(), 1);
+
+    // It is the first sample of these processes again, and covers no interval.
+    add();
+    refresh(&model);
+    QCOMPARE(model.count(), 0);
+    QCOMPARE(resets.size(), 1);
+    QCOMPARE(counts.size(), 1);
+    refresh(&model);
+    QCOMPARE(model.count(), 1);
+    QCOMPARE(resets.size(), 2);
+    QCOMPARE(counts.size(), 2);
+}
+
 void tst_Processes::namesFakeProcesses_data()
 {
     QTest::addColumn<QByteArray>("commandLine");
@@ -641,6 +679,14 @@ void tst_Processes::namesFakeProcesses_data()
     QTest::newRow("no end") << QByteArray("prog --flag") << statLine("other", 1, 1) << said("prog --flag");
     QTest::newRow("kernel thread") << QByteArray() << statLine("kworker/0:1H-kblockd", 1, 1)
                                    << said("kworker/0:1H-kblockd");
+    QTest::newRow("newline in an argument")
+        << QByteArray("prog\0two\nlines\0", 15) << statLine("other", 1, 1) << said("prog");
+    QTest::newRow("newline in the name") << QByteArray("prog\nram\0x\0", 11) << statLine("other", 1, 1)
+                                         << said("prog\n");
+    QTest::newRow("beyond ASCII") << QByteArray("pr\xc3\xb6g\0", 6) << statLine("other", 1, 1)
+                                  << said("pr\u00c3\u00b6g");
+    QTest::newRow("beyond ASCII, long") << QByteArray(4096, '\xe4') << statLine("other", 1, 1)
+                                        << QString(4096, QChar(0xe4));
     QTest::newRow("newline first") << QByteArray("\nprog\0", 6) << statLine("other", 1, 1) << said("\n");
     QTest::newRow("not UTF-8") << QByteArray() << statLine("\xff\xc3\xa4", 1, 1) << said("\ufffd\u00e4");
     QTest::newRow("empty stat name") << QByteArray() << statLine("", 1, 1) << QString();

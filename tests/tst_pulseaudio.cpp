@@ -4,6 +4,7 @@
 #include "metaobject.h"
 #include "pulseaudio.h"
 
+#include <QAbstractEventDispatcher>
 #include <QtTest>
 
 #include <signal.h>
@@ -51,6 +52,24 @@ const QByteArray Playing =
            "\tProperties:\n"
            "\t\tmedia.name = \"Playback\"\n"
            "\t\tapplication.name = \"paplay\"\n");
+
+/*! Notes the intervals of all timers that expire. */
+class ExpiredTimers : public QObject
+{
+public:
+    ExpiredTimers() { qApp->installEventFilter(this); }
+    QSet<int> intervals;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Timer) {
+            for (const auto &timer : QAbstractEventDispatcher::instance()->registeredTimers(object))
+                intervals.insert(timer.interval);
+        }
+        return false;
+    }
+};
 
 struct Row
 {
@@ -159,6 +178,7 @@ void tst_PulseAudio::keysAndPlaces_data()
     QTest::newRow("yes one before its place") << QByteArray("Corked:yes") << none << none << none << false << false;
     QTest::newRow("muted") << QByteArray("\tMute: yes") << none << none << none << false << true;
     QTest::newRow("muted, one before its place") << QByteArray("Mute:yes") << none << none << none << false << false;
+    QTest::newRow("muted, at its place") << QByteArray("Mute: yes") << none << none << none << false << true;
     QTest::newRow("muted, far behind") << QByteArray("\tMute: no, oh yes") << none << none << none << false << true;
     QTest::newRow("case counts") << QByteArray("\tmute: yes corked: yes") << none << none << none << false << false;
     QTest::newRow("corked wins over mute")
@@ -208,6 +228,10 @@ void tst_PulseAudio::keysAndPlaces_data()
                                         << false;
     QTest::newRow("volume, left before its place")
         << QByteArray("left: 1% Volume: right: 2%") << none << none << none << false << false;
+    QTest::newRow("volume, left at its place")
+        << QByteArray("Volume: left: 1% right: 2%") << none << none << QStringLiteral("1% 2%") << false << false;
+    QTest::newRow("volume, left one before its place")
+        << QByteArray("Volume:left: 1% right: 2%") << none << none << none << false << false;
     QTest::newRow("nothing") << QByteArray("\tDriver: x") << none << none << none << false << false;
 }
 
@@ -391,12 +415,14 @@ void tst_PulseAudio::pollsAgain()
 {
     installListing("");
     PulseAudio model;
+    const ExpiredTimers expired;
     const QSignalSpy resets(&model, &PulseAudio::modelReset);
     QTRY_COMPARE(resets.count(), 1);
     QElapsedTimer timer;
     timer.start();
     QTRY_COMPARE_WITH_TIMEOUT(resets.count(), 2, 8000);
     QVERIFY2(timer.elapsed() > 5500, "the poll came too early");
+    QVERIFY(expired.intervals.contains(6021));
 }
 
 void tst_PulseAudio::dropsAPollThatStillRuns()

@@ -48,6 +48,7 @@ void tst_RadioPreference::looksForTheSection_data()
     QTest::newRow("between others") << QByteArray("[Settings]\nx=1\n\n[4gOn]\nvalue=false\n") << true;
     QTest::newRow("last, without line end") << QByteArray("[Settings]\nx=1\n[4gOn]") << true;
     QTest::newRow("carriage returns") << QByteArray("[Settings]\r\n[4gOn]\r\n") << true;
+    QTest::newRow("stray carriage returns") << QByteArray("\r[4gOn]\r\r\n") << true;
     QTest::newRow("behind megabytes") << QByteArray(4 * 1024 * 1024, 'x').append("\n[4gOn]\n") << true;
     QTest::newRow("behind invalid UTF-8") << QByteArray("\xff\xfd\xfc\n[4gOn]\n") << true;
     QTest::newRow("behind a NUL") << QByteArray("a\0b\n[4gOn]\n", 11) << true;

@@ -186,6 +186,8 @@ void tst_Touch::judgesTheFirstLine_data()
     QTest::newRow("0 and newline") << QByteArray("0\n") << true << said("\"0\"");
     QTest::newRow("0 and more lines") << QByteArray("0\n1\n") << true << said("\"0\"");
     QTest::newRow("0 and carriage return") << QByteArray("0\r\n") << true << said("\"0\"");
+    // Text mode drops them wherever they stand.
+    QTest::newRow("0 between carriage returns") << QByteArray("\r0\r") << true << said("\"0\"");
     QTest::newRow("trailing blank") << QByteArray("0 \n") << false << said("\"0 \"");
     QTest::newRow("leading blank") << QByteArray(" 0") << false << said("\" 0\"");
     QTest::newRow("1") << QByteArray("1\n") << false << said("\"1\"");
