@@ -150,6 +150,7 @@ private Q_SLOTS:
     void playsFromTheStart();
     void playKeepsItsOutput();
     void recordsWhilePlaying();
+    void recordsFromTheStartWhilePlaying();
     void volumeAndCategory();
     void removesItsFile();
     void usesOneFormat();
@@ -581,6 +582,21 @@ void tst_Recorder::recordsWhilePlaying()
     QVERIFY(outputOf(recorder));
     recorder.stop();
     QVERIFY(!outputOf(recorder));
+}
+
+void tst_Recorder::recordsFromTheStartWhilePlaying()
+{
+    writeFile(Settings, "[Audio]\nRecordTopDeviceChannel=left\n");
+    Recorder recorder;
+    recorder.record();
+    QTRY_VERIFY_WITH_TIMEOUT(recording().size() > 400000, 20000);
+    recorder.play();
+    QTRY_VERIFY_WITH_TIMEOUT(outputOf(recorder)->state() == QAudio::IdleState, 20000);
+    const int size = recording().size();
+    // Not behind what has been played, although the file is still open there. Both move on in it from the start.
+    recorder.setInputSource(Recorder::TopMicrophone);
+    recorder.record();
+    QTRY_VERIFY_WITH_TIMEOUT(countFrames(recording().left(size), SoundServer::Left, SoundServer::Left) > 0, 20000);
 }
 
 void tst_Recorder::volumeAndCategory()
