@@ -589,7 +589,7 @@ void tst_Recorder::recordsFromTheStartWhilePlaying()
     writeFile(Settings, "[Audio]\nRecordTopDeviceChannel=left\n");
     Recorder recorder;
     recorder.record();
-    QTRY_VERIFY_WITH_TIMEOUT(recording().size() > 400000, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(recording().size() > 800000, 20000);
     recorder.play();
     QTRY_VERIFY_WITH_TIMEOUT(outputOf(recorder)->state() == QAudio::IdleState, 20000);
     const int size = recording().size();

@@ -228,9 +228,12 @@ void tst_Zel::convertsValues_data()
     QTest::newRow("-1") << QVariant(-1) << true << QStringLiteral("-1");
     QTest::newRow("byte") << QVariant::fromValue(uchar('1')) << true << QStringLiteral("1");
     QTest::newRow("64 bits") << QVariant(5ull) << true << QStringLiteral("5");
+    QTest::newRow("beyond 32 bits") << QVariant(1ull << 32) << false << QStringLiteral("4294967296");
     QTest::newRow("double") << QVariant(1.0) << true << QStringLiteral("1");
+    QTest::newRow("less than a half") << QVariant(0.25) << false << QStringLiteral("0.25");
     QTest::newRow("text 0") << QVariant(QStringLiteral("0")) << false << QStringLiteral("0");
     QTest::newRow("text 1") << QVariant(QStringLiteral("1")) << true << QStringLiteral("1");
+    QTest::newRow("text -1") << QVariant(QStringLiteral("-1")) << true << QStringLiteral("-1");
     QTest::newRow("text true") << QVariant(QStringLiteral("true")) << false << QStringLiteral("true");
     QTest::newRow("empty text") << QVariant(QString()) << false << QString();
     QTest::newRow("object path") << QVariant::fromValue(QDBusObjectPath(QStringLiteral("/zel"))) << false << QString();
