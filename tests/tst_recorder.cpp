@@ -555,6 +555,11 @@ void tst_Recorder::playsFromTheStart()
     QCOMPARE(outputOf(recorder), output);
     recorder.stop();
     QVERIFY(!outputOf(recorder));
+
+    // As often as the operator likes.
+    SoundServer::Listener again;
+    recorder.play();
+    QTRY_VERIFY_WITH_TIMEOUT(countFrames(again.frames(), SoundServer::Left, SoundServer::Right) > 20000, 20000);
 }
 
 void tst_Recorder::playKeepsItsOutput()
