@@ -29,6 +29,8 @@ Item {
 
     /*! A page is gone; what it needed can be given back. */
     signal pageClosed()
+    /*! A page has made Qt's NetworkInfo. */
+    signal networkInformationMade(QtObject information)
 
     implicitWidth: 360
     implicitHeight: 640

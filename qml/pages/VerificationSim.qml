@@ -60,11 +60,9 @@ TestPage {
     }
     onClosing: module.active = false
 
-    Loader {
+    NetworkLoader {
         id: module
-        active: false
-        visible: false
-        source: "NetworkInformation.qml"
+        frame: page.frame
     }
 
     Notice {

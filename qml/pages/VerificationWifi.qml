@@ -60,11 +60,9 @@ TestPage {
     MacValidator {
         id: validator
     }
-    Loader {
+    NetworkLoader {
         id: module
-        active: false
-        visible: false
-        source: "NetworkInformation.qml"
+        frame: page.frame
     }
     Timer {
         interval: 2000

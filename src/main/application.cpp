@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "mediaregistry.h"
+#include "networkinformation.h"
 #include "pagecache.h"
 #include "pagememory.h"
 #include "registration.h"
@@ -14,6 +15,7 @@
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QQuickView>
 #include <QQuickWindow>
 #include <QTranslator>
@@ -92,6 +94,7 @@ extern "C" Q_DECL_EXPORT int kivApplicationMain(int argc, char **argv)
     view->setTitle(qtTrId("kiv-ap-name"));
     view->setSource(KestraneApp::pathTo(QStringLiteral("main.qml")));
     const auto memory = std::make_unique<PageMemory>(view.get());
+    const auto networkInformation = std::make_unique<NetworkInformation>(view->rootObject());
     view->showFullScreen();
 
     // For the camera pipelines that pages create from now on.

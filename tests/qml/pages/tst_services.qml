@@ -442,6 +442,20 @@ Driver {
         compare(Phone.log, []);
     }
 
+    /*! What pages have Qt tell of networks is announced to whoever shows them, so that it can end safely. */
+    function test_networkInformationIsAnnounced_data() {
+        return [{ tag: "VerificationSim" }, { tag: "VerificationWifi" }];
+    }
+
+    function test_networkInformationIsAnnounced(data) {
+        var kinds = [];
+        start(data.tag);
+        shell.networkInformationMade.connect(function(information) { kinds.push(typeof information.networkStatus); });
+        tryVerify(function() { return page !== null && page.isOpen; });
+        tryCompare(kinds, "length", 1);
+        compare(kinds, ["function"]);
+    }
+
     function test_simCard() {
         openTest("VerificationSim");
         verdictIs(FactoryUtils.Pass);
