@@ -5,6 +5,7 @@
 // page takes while nothing happens. benchmarks/run starts it on the simulated phone.
 //
 // A call that blocks waits; what the thread computes is what counts here.
+#include "networkinformation.h"
 #include "pagememory.h"
 #include "registration.h"
 
@@ -191,6 +192,7 @@ int main(int argc, char **argv)
     if (view.status() != QQuickView::Ready)
         return 1;
     const PageMemory keeper(&view);
+    const NetworkInformation networkInformation(view.rootObject());
     wait(1000);
 
     Shell shell(&view);
