@@ -2703,6 +2703,23 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation>Kysytään WLAN-radiolta</translation>
     </message>
+    <message id="kiv-run-in-heat-unknown">
+        <source>The battery&apos;s temperature cannot be read: heat will not stop the run-in.</source>
+        <translation>Akun lämpötilaa ei voi lukea: kuumuus ei pysäytä sisäänajoa.</translation>
+    </message>
+    <message id="kiv-run-in-again">
+        <source>A test failed meanwhile: the run-in has to be done again.</source>
+        <translation>Testi hylättiin sen aikana: sisäänajo on tehtävä uudelleen.</translation>
+    </message>
+    <message id="kiv-summary-failed-loops">
+        <source>Failed in the run-in, loop %1</source>
+        <extracomment>Numbers of loops</extracomment>
+        <translation>Hylätty sisäänajossa, kierros %1</translation>
+    </message>
+    <message id="kiv-summary-failed-attempts">
+        <source>Attempts that failed: %1</source>
+        <translation>Hylättyjä yrityksiä: %1</translation>
+    </message>
     <message id="kiv-led-switching">
         <source>Switching charging</source>
         <translation>Latausta kytketään</translation>

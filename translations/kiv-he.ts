@@ -2703,6 +2703,23 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation>שואל על רכיב ה־Wi-Fi</translation>
     </message>
+    <message id="kiv-run-in-heat-unknown">
+        <source>The battery&apos;s temperature cannot be read: heat will not stop the run-in.</source>
+        <translation>לא ניתן לקרוא את חום הסוללה: החום לא יעצור את ההרצה.</translation>
+    </message>
+    <message id="kiv-run-in-again">
+        <source>A test failed meanwhile: the run-in has to be done again.</source>
+        <translation>בדיקה נכשלה בינתיים: יש לבצע את ההרצה מחדש.</translation>
+    </message>
+    <message id="kiv-summary-failed-loops">
+        <source>Failed in the run-in, loop %1</source>
+        <extracomment>Numbers of loops</extracomment>
+        <translation>נכשלה בהרצה, סבב %1</translation>
+    </message>
+    <message id="kiv-summary-failed-attempts">
+        <source>Attempts that failed: %1</source>
+        <translation>ניסיונות שנכשלו: %1</translation>
+    </message>
     <message id="kiv-led-switching">
         <source>Switching charging</source>
         <translation>מחליף את מצב הטעינה</translation>

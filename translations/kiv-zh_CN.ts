@@ -2703,6 +2703,23 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation>正在查询 Wi-Fi 模块</translation>
     </message>
+    <message id="kiv-run-in-heat-unknown">
+        <source>The battery&apos;s temperature cannot be read: heat will not stop the run-in.</source>
+        <translation>无法读取电池温度：老化测试不会因过热而停止。</translation>
+    </message>
+    <message id="kiv-run-in-again">
+        <source>A test failed meanwhile: the run-in has to be done again.</source>
+        <translation>期间有测试不合格：必须重新进行老化测试。</translation>
+    </message>
+    <message id="kiv-summary-failed-loops">
+        <source>Failed in the run-in, loop %1</source>
+        <extracomment>Numbers of loops</extracomment>
+        <translation>老化测试中不合格，第 %1 轮</translation>
+    </message>
+    <message id="kiv-summary-failed-attempts">
+        <source>Attempts that failed: %1</source>
+        <translation>不合格的尝试：%1</translation>
+    </message>
     <message id="kiv-led-switching">
         <source>Switching charging</source>
         <translation>正在切换充电</translation>

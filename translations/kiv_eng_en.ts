@@ -2703,6 +2703,23 @@
         <source>Asking for the Wi-Fi radio</source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="kiv-run-in-heat-unknown">
+        <source>The battery&apos;s temperature cannot be read: heat will not stop the run-in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-run-in-again">
+        <source>A test failed meanwhile: the run-in has to be done again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-summary-failed-loops">
+        <source>Failed in the run-in, loop %1</source>
+        <extracomment>Numbers of loops</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-summary-failed-attempts">
+        <source>Attempts that failed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message id="kiv-led-switching">
         <source>Switching charging</source>
         <translation type="unfinished"></translation>

@@ -7,6 +7,7 @@ Rectangle {
     objectName: "codeSheet"
 
     property string text
+    readonly property bool isOpen: visible
 
     function open(newText) {
         text = newText;

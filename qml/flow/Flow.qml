@@ -24,12 +24,18 @@ QtObject {
     readonly property var current: position < run.length ? run[position] : null
     /*! Name to verdict, see record(). Replaced as a whole, so that bindings follow. */
     property var results: ({})
+    /*! The same for what the run-in found out by itself; a later verdict of an operator takes its place. */
+    property var unattended: ({})
+    readonly property bool anyResults: Object.keys(results).length + Object.keys(unattended).length > 0
 
     /*!
-     * How the run-in of this sequence ended, null where there was none: {why, code, text}. Its code is the best that the
-     * sequence can have, whatever its tests have: an end before its time is no pass.
+     * How the unit's run-in ended, null where there was none: {why, code, text, failedLoops}. Its code is the best that
+     * the sequence can have, whatever its tests have: neither an end before its time nor a run with a failure, even of a
+     * test that passes when it is tried again, is a pass.
      */
-    property var ending: null
+    property var runInEnding: null
+    /*! The same where the run-in is the sequence; the others know nothing of it. */
+    readonly property var ending: mode === TestTable.RunInTests ? runInEnding : null
 
     /*! A verdict was kept. */
     signal recorded(string name, var verdict)
@@ -44,7 +50,6 @@ QtObject {
     /*! Verdicts stay: they are the unit's, whatever sequence they came from. */
     function choose(newMode, features) {
         mode = newMode;
-        ending = null;
         entries = TestTable.plan(newMode, features);
         run = [];
         position = 0;
@@ -52,7 +57,8 @@ QtObject {
 
     function clear() {
         results = {};
-        ending = null;
+        unattended = {};
+        runInEnding = null;
         run = [];
         position = 0;
     }
@@ -87,30 +93,58 @@ QtObject {
      *   readings   the measurements at that moment
      * attempts and spent, the seconds of all attempts together, are counted here.
      */
-    function record(name, verdict) {
-        keep(name, verdict, verdict);
+    function record(name, newVerdict) {
+        keep(name, newVerdict, newVerdict);
+        if (newVerdict.code !== FactoryUtils.Untest) {
+            var others = copyOf(unattended, {});
+            delete others[name];
+            unattended = others;
+        }
         recorded(name, results[name]);
     }
 
     /*! An attempt that was broken off to try again: it is counted, and the verdict so far stands. */
     function noteAttempt(name, attempt) {
-        keep(name, attempt, results[name] || copyOf(attempt, { code: FactoryUtils.Untest, decided: "", reason: "" }));
+        var standing = results[name] || copyOf(attempt, { code: FactoryUtils.Untest, decided: "", reason: "" });
+        keep(name, attempt, standing);
     }
 
-    /*! Takes a verdict over as it stands, with its own numbers of attempts and seconds. */
+    /*!
+     * Takes over what the run-in found out about a test while nobody watched, with its own numbers of attempts and
+     * seconds.
+     */
     function adopt(name, verdict) {
         var adopted = {};
-        adopted[name] = copyOf(verdict, { history: [] });
-        results = copyOf(results, adopted);
+        adopted[name] = copyOf(verdict, { history: [verdict] });
+        unattended = copyOf(unattended, adopted);
     }
 
-    function keep(name, attempt, verdict) {
-        var earlier = results[name];
+    /*!
+     * The verdict that counts for a test in this sequence; undefined where there is none. A failure is one wherever it was
+     * seen. But a pass that nobody watched, for which a page asks less, counts in the run-in alone, and takes back no
+     * failure that an operator saw.
+     */
+    function verdict(name) {
+        var watched = results[name], alone = unattended[name];
+        if (!alone || alone.code === FactoryUtils.Fail)
+            return alone || watched;
+        return mode === TestTable.RunInTests && !(watched && watched.code === FactoryUtils.Fail) ? alone : watched;
+    }
+
+    function keep(name, attempt, newVerdict) {
+        var earlier = results[name] ? [results[name]] : [], alone = unattended[name];
+        // The loops of the run-in count once, and where they count at all.
+        if (alone && alone === verdict(name) && !alone.counted) {
+            earlier.push(alone);
+            var counted = {};
+            counted[name] = copyOf(alone, { counted: true });
+            unattended = copyOf(unattended, counted);
+        }
         var kept = {};
-        kept[name] = copyOf(verdict, {
-            attempts: (earlier ? earlier.attempts : 0) + 1,
-            spent: (earlier ? earlier.spent : 0) + (attempt.seconds || 0),
-            history: (earlier ? earlier.history : []).concat([attempt])
+        kept[name] = copyOf(newVerdict, {
+            attempts: earlier.reduce(function(sum, one) { return sum + one.attempts; }, 1),
+            spent: earlier.reduce(function(sum, one) { return sum + one.spent; }, attempt.seconds || 0),
+            history: earlier.reduce(function(all, one) { return all.concat(one.history); }, []).concat([attempt])
         });
         results = copyOf(results, kept);
     }
@@ -125,7 +159,8 @@ QtObject {
     }
 
     function code(name) {
-        return results[name] ? results[name].code : FactoryUtils.Untest;
+        var counting = verdict(name);
+        return counting ? counting.code : FactoryUtils.Untest;
     }
 
     function rowsWith(wanted) {
@@ -143,7 +178,7 @@ QtObject {
 
     /*! Failed if a test or the run-in failed; passed only if none failed, none is left and one passed at all. */
     function overallCode() {
-        var best = ending ? ending.code : FactoryUtils.Pass;
+        var best = mode !== TestTable.RunInTests ? FactoryUtils.Pass : ending ? ending.code : FactoryUtils.Untest;
         return count(FactoryUtils.Fail) > 0 || best === FactoryUtils.Fail ? FactoryUtils.Fail
                : count(FactoryUtils.Untest) > 0 || count(FactoryUtils.Pass) === 0 || best === FactoryUtils.Untest
                ? FactoryUtils.Untest : FactoryUtils.Pass;
@@ -152,7 +187,7 @@ QtObject {
     /*! The sum of a number, "attempts" or "spent", over the tests of the sequence. */
     function total(number) {
         return entries.reduce(function(sum, entry) {
-            var result = flow.results[entry.row.name];
+            var result = flow.verdict(entry.row.name);
             return sum + (result ? result[number] : 0);
         }, 0);
     }

@@ -43,8 +43,14 @@ function run(flow, identity, time) {
     ["00", "01", "02", "03"].forEach(function(code) { counts[code] = flow.count(code); });
     return line({ kiv: version, event: "run", time: time, mode: modeWord(flow.mode), code: flow.overallCode(),
                   end: flow.ending ? flow.ending.why : null,
+                  failedLoops: flow.ending ? flow.ending.failedLoops || {} : null,
                   wlan: identity.wlan || null, bluetooth: identity.bluetooth || null, calibrated: identity.calibrated,
                   counts: counts, attempts: flow.total("attempts"), seconds: flow.total("spent"), results: results });
+}
+
+// An address is read from a file that may hold anything: a code has no room for that, and its lines must stay lines.
+function address(text) {
+    return String(text || "").replace(/[^\x21-\x7e]/g, "?").slice(0, 40) || "-";
 }
 
 // A line for each fact, so that a person can read what a scanner shows. The codes stand in the order of the sequence;
@@ -52,7 +58,7 @@ function run(flow, identity, time) {
 function codeText(flow, identity) {
     var failed = flow.entries.filter(function(entry) { return flow.entryCode(entry) === "02"; })
                              .map(function(entry) { return entry.row.name; });
-    var lines = ["KIV " + version, "WLAN " + (identity.wlan || "-"), "BT " + (identity.bluetooth || "-"),
+    var lines = ["KIV " + version, "WLAN " + address(identity.wlan), "BT " + address(identity.bluetooth),
                  "CAL " + (identity.calibrated ? "1" : "0"), "MODE " + modeWord(flow.mode),
                  "RESULT " + flow.overallCode(),
                  "CODES " + flow.entries.map(function(entry) { return flow.entryCode(entry); }).join("")];

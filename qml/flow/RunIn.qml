@@ -10,7 +10,7 @@ QtObject {
     id: runIn
 
     property var rows: []
-    property int lengthSeconds: 3600 * KivHwSettings.runInTestLength
+    property real lengthSeconds: 3600 * KivHwSettings.runInTestLength
     property bool stopOnFailure: true
     /*! Degrees Celsius at which it ends; NaN for never. */
     property real temperatureLimit: NaN
@@ -24,8 +24,12 @@ QtObject {
     readonly property int secondsLeft: Math.max(0, lengthSeconds - elapsed)
     /*! Why it ended: "time", "failure", "temperature", "restart" or "operator"; empty before. */
     property string end
-    /*! [{row, loop, reason}] in order of time. */
+    /*!
+     * The tests that failed, in order of time: {row, loop, reason, times, loops}. The loop and the reason are those of the
+     * first failure; loops are the first ones: what fails at every turn of a long run must not fill the memory.
+     */
     property var failures: []
+    readonly property int mostLoops: 5
     /*! Name to {code, reason, loops, seconds}. */
     property var outcomes: ({})
     /*! When the phone was started, as seen at the beginning and now. */
@@ -86,7 +90,7 @@ QtObject {
                       loops: (earlier ? earlier.loops : 0) + 1, seconds: (earlier ? earlier.seconds : 0) + seconds };
         outcomes = all;
         if (code === FactoryUtils.Fail) {
-            failures = failures.concat([{ row: row, loop: loop, reason: reason }]);
+            noteFailure(reason);
             if (stopOnFailure) {
                 stop("failure");
                 return;
@@ -106,6 +110,17 @@ QtObject {
             return;
         }
         testWanted();
+    }
+
+    function noteFailure(reason) {
+        var known = failures.filter(function(failure) { return failure.row === runIn.row; })[0];
+        if (!known) {
+            failures = failures.concat([{ row: row, loop: loop, reason: reason, times: 1, loops: [loop] }]);
+            return;
+        }
+        var again = { row: row, loop: known.loop, reason: known.reason, times: known.times + 1,
+                      loops: known.loops.concat([loop]).slice(0, mostLoops) };
+        failures = failures.map(function(failure) { return failure === known ? again : failure; });
     }
 
     function stop(why) {

@@ -124,7 +124,7 @@ Item {
 
             PushButton {
                 id: summaryButton
-                readonly property bool useful: screen.flow && Object.keys(screen.flow.results).length > 0
+                readonly property bool useful: screen.flow !== null && screen.flow.anyResults
                 width: useful ? (parent.width - parent.spacing) * 0.4 : 0
                 visible: useful
                 //% "Summary"

@@ -46,8 +46,6 @@ Item {
         closePage();
         testSeconds = 0;
         loader.setSource("../pages/" + runIn.row.page, { "frame": screen, "row": runIn.row });
-        if (loader.status === Loader.Error)
-            finish(FactoryUtils.Fail, qsTrId("kiv-page-broken"));
     }
 
     function finish(code, reason) {
@@ -64,7 +62,10 @@ Item {
     /*! Looks once a second how the page is getting on. */
     function watch() {
         ++testSeconds;
-        if (!page || !page.isOpen) {
+        // Not where it is opened: one that cannot be opened after the other would be a loop without an end.
+        if (loader.status === Loader.Error) {
+            finish(FactoryUtils.Fail, qsTrId("kiv-page-broken"));
+        } else if (!page || !page.isOpen) {
             if (testSeconds >= runIn.row.timeout)
                 //% "The test did not begin in time."
                 finish(FactoryUtils.Fail, qsTrId("kiv-run-in-stuck"));
@@ -105,6 +106,18 @@ Item {
         return qsTrId("kiv-run-in-end-operator");
     }
 
+    function failureText(failure) {
+        //: A test that failed, and the number of the loop
+        //% "%1, loop %2"
+        return qsTrId("kiv-run-in-failure").arg(qsTrId(failure.row.title))
+               .arg(failure.loops.join(", ") + (failure.times > failure.loops.length ? " …" : ""));
+    }
+
+    /*! Whether heat is to end it, but nobody can tell how hot the battery is. */
+    readonly property bool heatUnknown: !over && limitButton.choice > 0 && isNaN(runIn.temperature.now)
+    //% "The battery's temperature cannot be read: heat will not stop the run-in."
+    readonly property string heatUnknownText: qsTrId("kiv-run-in-heat-unknown")
+
     function timeText(date) {
         return isNaN(date.getTime()) ? qsTrId("kiv-reading-missing")
                                      : date.toLocaleString(Qt.locale(), Locale.ShortFormat);
@@ -117,17 +130,24 @@ Item {
     }
 
     function summarize() {
-        // A test that failed says so itself; when it is mended, the run-in still has to be done.
-        flow.ending = { "why": runIn.end, "text": endWord(),
-                        "code": runIn.end === "time" ? FactoryUtils.Pass
-                                : runIn.end === "temperature" || runIn.end === "restart" ? FactoryUtils.Fail
-                                : FactoryUtils.Untest };
+        // A test that failed says so itself. When it passes again, mended or by chance, the run-in still has to be done.
+        var failedLoops = {};
+        runIn.failures.forEach(function(failure) { failedLoops[failure.row.name] = failure.loops; });
+        flow.runInEnding = { "why": runIn.end, "failedLoops": failedLoops,
+                             "text": endWord() + (runIn.failures.length === 0 ? ""
+                                     //% "A test failed meanwhile: the run-in has to be done again."
+                                     : "\n" + qsTrId("kiv-run-in-again")),
+                             "code": runIn.end === "temperature" || runIn.end === "restart" ? FactoryUtils.Fail
+                                     : runIn.end === "time" && runIn.failures.length === 0 ? FactoryUtils.Pass
+                                     : FactoryUtils.Untest };
         for (var name in runIn.outcomes) {
             var outcome = runIn.outcomes[name];
             flow.adopt(name, { "code": outcome.code, "decided": "", "overruled": false, "reason": outcome.reason,
                                "attempts": outcome.loops, "spent": outcome.seconds, "seconds": outcome.seconds });
         }
     }
+
+    Component.onCompleted: runIn.temperature.now = Number(runIn.battery.temperature())
 
     RunIn {
         id: runIn
@@ -251,6 +271,13 @@ Item {
                       : qsTrId("kiv-run-in-no-limit")
                 onClicked: choice = (choice + 1) % limits.length
             }
+            Notice {
+                objectName: "heatUnknown"
+                width: parent.width
+                visible: screen.heatUnknown
+                kind: "near"
+                text: screen.heatUnknownText
+            }
             Words {
                 width: parent.width
                 color: Theme.muted
@@ -316,14 +343,18 @@ Item {
                 Notice {
                     width: parent.width
                     kind: "fail"
-                    //: A test that failed, and the number of the loop
-                    //% "%1, loop %2"
-                    text: qsTrId("kiv-run-in-failure").arg(qsTrId(modelData.row.title)).arg(modelData.loop)
+                    text: screen.failureText(modelData)
                     detail: modelData.reason
                 }
             }
         }
 
+        Notice {
+            width: parent.width
+            visible: runIn.running && screen.heatUnknown
+            kind: "near"
+            text: screen.heatUnknownText
+        }
         Loader {
             id: loader
             width: parent.width
@@ -378,7 +409,7 @@ Item {
                 if (runIn.running) {
                     runIn.stop("operator");
                 } else {
-                    screen.flow.ending = null;
+                    screen.flow.runInEnding = null;
                     runIn.temperatureLimit = limitButton.limits[limitButton.choice];
                     runIn.start();
                 }

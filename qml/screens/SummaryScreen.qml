@@ -11,6 +11,7 @@ Item {
 
     property var shell
     readonly property var flow: shell ? shell.flow : null
+    readonly property alias sheet: codeSheet
     readonly property string code: flow ? flow.overallCode() : FactoryUtils.Untest
     readonly property var look: Style.looks[code]
     /*! Why a run-in ended before its time. */
@@ -41,7 +42,7 @@ Item {
             return qsTrId("kiv-summary-absent").arg(entry.row.needs.join(", "));
         if (entry.state === "unwritten")
             return qsTrId("kiv-list-unwritten");
-        var result = flow.results[entry.row.name];
+        var result = flow.verdict(entry.row.name);
         if (!result)
             return "";
         var parts = [];
@@ -59,6 +60,16 @@ Item {
         if (result.attempts > 1)
             //% "Attempts: %1"
             parts.push(qsTrId("kiv-summary-attempts").arg(result.attempts));
+        // A part that fails now and then is not hidden by an attempt at which it did not.
+        var loops = flow.ending && flow.ending.failedLoops ? flow.ending.failedLoops[entry.row.name] : undefined;
+        if (loops)
+            //: Numbers of loops
+            //% "Failed in the run-in, loop %1"
+            parts.push(qsTrId("kiv-summary-failed-loops").arg(loops.join(", ")));
+        var failures = result.history.filter(function(attempt) { return attempt.code === FactoryUtils.Fail; }).length;
+        if (failures > 0 && result.code !== FactoryUtils.Fail)
+            //% "Attempts that failed: %1"
+            parts.push(qsTrId("kiv-summary-failed-attempts").arg(failures));
         if (result.spent)
             parts.push(duration(result.spent));
         return parts.join("\n");

@@ -86,6 +86,6 @@ TestCase {
 
     /*! The verdict that the flow keeps for a test. */
     function kept(name) {
-        return shell.flow.results[name];
+        return shell.flow.verdict(name);
     }
 }

@@ -268,8 +268,8 @@ Driver {
     function test_runInThatEndedEarly(data) {
         toSequence(TestTable.RunInTests, ["MacAddresses"]);
         shell.flow.adopt("MacAddresses", { code: FactoryUtils.Pass, attempts: 3, spent: 3 });
-        compare(shell.flow.overallCode(), FactoryUtils.Pass);
-        shell.flow.ending = { why: data.tag, code: data.ending, text: "Over." };
+        compare(shell.flow.overallCode(), FactoryUtils.Untest, "there was no run-in");
+        shell.flow.runInEnding = { why: data.tag, code: data.ending, text: "Over." };
         compare(shell.flow.overallCode(), data.code);
         var run = JSON.parse(Report.run(shell.flow, { wlan: "", bluetooth: "", calibrated: false }, ""));
         compare(run.code, data.code);

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: BSD-3-Clause
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import QtTest 1.15
+import Kiv 1.0
+import KivFake 1.0
+import "../../../qml/flow/Report.js" as Report
+import "../../../qml/flow/TestTable.js" as TestTable
+
+/*! What tired, hurried and gloved hands do to the flow, and what must come out all the same. */
+Driver {
+    id: driver
+    name: "Misuse"
+
+    readonly property var identity: ({ wlan: "", bluetooth: "", calibrated: false })
+
+    function screenName() {
+        return shell.screen ? String(shell.screen).replace(/_QMLTYPE.*/, "") : "";
+    }
+
+    function choose(mode) {
+        shell.chooseSequence(mode);
+        verify(shell.busy);
+        tryVerify(function() { return !shell.busy && screenName() === "ListScreen"; });
+    }
+
+    function toList(mode, names) {
+        Phone.factoryTests = names;
+        Phone.runInTests = names;
+        start("home");
+        choose(mode);
+    }
+
+    function startSequence(names) {
+        toList(TestTable.FactoryTests, names);
+        mouseClick(find("start"));
+        tryVerify(function() { return page && page.isOpen; });
+    }
+
+    /*! A run-in of which nothing but the end is of interest here. */
+    function runIn(outcomes, end) {
+        choose(TestTable.RunInTests);
+        mouseClick(find("start"));
+        var run = frame.runIn;
+        run.stopOnFailure = false;
+        run.running = true;
+        run.loop = 1;
+        run.elapsed = -1000;
+        outcomes.forEach(function(code) { run.finish(code, "because", 3); });
+        run.stop(end);
+    }
+
+    function summaryCode() {
+        shell.show("SummaryScreen");
+        return frame.code;
+    }
+
+    function test_aRunInIsNoPassOfTheFactorySequence() {
+        toList(TestTable.FactoryTests, ["VerificationLcd", "VerificationWifi"]);
+        runIn(["01", "01"], "time");
+        compare(summaryCode(), FactoryUtils.Pass);
+        choose(TestTable.FactoryTests);
+        compare(shell.flow.rowsWith(FactoryUtils.Untest).length, 2, "nobody has looked at the panel");
+        compare(summaryCode(), FactoryUtils.Untest);
+        verify(Report.codeText(shell.flow, identity).indexOf("CODES 0000") > 0);
+        compare(shell.flow.total("attempts"), 0);
+        choose(TestTable.RunInTests);
+        compare(summaryCode(), FactoryUtils.Pass, "it is still the run-in's");
+    }
+
+    function test_aRunInTakesBackNoFailureThatWasSeen() {
+        toList(TestTable.FactoryTests, ["VerificationLcd"]);
+        shell.flow.record("VerificationLcd", { code: FactoryUtils.Fail, decided: "", reason: "A dead pixel", seconds: 2 });
+        runIn(["01", "01"], "time");
+        compare(kept("VerificationLcd").reason, "A dead pixel");
+        compare(summaryCode(), FactoryUtils.Fail);
+        choose(TestTable.FactoryTests);
+        compare(summaryCode(), FactoryUtils.Fail);
+        shell.flow.record("VerificationLcd", { code: FactoryUtils.Pass, decided: "", reason: "", seconds: 2 });
+        compare(summaryCode(), FactoryUtils.Pass);
+        compare(kept("VerificationLcd").attempts, 2);
+    }
+
+    function test_aFailureOfTheRunInIsOneEverywhere() {
+        toList(TestTable.FactoryTests, ["MacAddresses"]);
+        shell.flow.record("MacAddresses", { code: FactoryUtils.Pass, decided: "01", reason: "", seconds: 2 });
+        runIn(["01", "02", "01"], "time");
+        choose(TestTable.FactoryTests);
+        compare(summaryCode(), FactoryUtils.Fail);
+        // A skip takes nothing back.
+        shell.flow.record("MacAddresses", { code: FactoryUtils.Untest, decided: "", reason: "", seconds: 1 });
+        compare(shell.flow.code("MacAddresses"), FactoryUtils.Fail);
+    }
+
+    function test_factoryPassesAreNoRunIn() {
+        toList(TestTable.FactoryTests, ["MacAddresses"]);
+        shell.flow.record("MacAddresses", { code: FactoryUtils.Pass, decided: "01", reason: "", seconds: 2 });
+        compare(summaryCode(), FactoryUtils.Pass);
+        choose(TestTable.RunInTests);
+        compare(summaryCode(), FactoryUtils.Untest, "there was no run-in");
+        verify(Report.codeText(shell.flow, identity).indexOf("RESULT 00") > 0);
+    }
+
+    function test_theEndOfTheRunInOutlivesAnotherSequence() {
+        toList(TestTable.FactoryTests, ["MacAddresses"]);
+        runIn(["01"], "temperature");
+        compare(summaryCode(), FactoryUtils.Fail);
+        choose(TestTable.FactoryTests);
+        compare(JSON.parse(Report.run(shell.flow, identity, "")).end, null);
+        choose(TestTable.RunInTests);
+        compare(summaryCode(), FactoryUtils.Fail);
+        mouseClick(find("next"));
+        choose(TestTable.RunInTests);
+        compare(summaryCode(), FactoryUtils.Untest);
+    }
+
+    function test_aRetestDoesNotHideAFailureInALoop() {
+        toList(TestTable.FactoryTests, ["MacAddresses", "VerificationBattery"]);
+        runIn(["01", "01", "02", "01", "01", "01"], "time");
+        compare(summaryCode(), FactoryUtils.Fail);
+        mouseClick(find("retest"));
+        compare(frame.row.name, "VerificationBattery");
+        tryVerify(function() { return screenName() === "SummaryScreen"; }, 15000);
+        compare(kept("VerificationBattery").code, FactoryUtils.Pass);
+        compare(kept("VerificationBattery").attempts, 4);
+        compare(frame.code, FactoryUtils.Untest, "not green");
+        verify(find("totals").text.indexOf("the run-in has to be done again") >= 0, find("totals").text);
+        var entry = shell.flow.entries.filter(function(entry) { return entry.row.name === "VerificationBattery"; })[0];
+        var remark = frame.remark(entry);
+        verify(remark.indexOf("Failed in the run-in, loop 2") >= 0, remark);
+        verify(remark.indexOf("Attempts that failed: 1") >= 0, remark);
+        var run = JSON.parse(Report.run(shell.flow, identity, ""));
+        compare(run.code, FactoryUtils.Untest);
+        compare(run.failedLoops, { VerificationBattery: [2] });
+        verify(Report.codeText(shell.flow, identity).indexOf("RESULT 00") > 0);
+    }
+
+    function test_aTestThatFailsForHoursFillsNoMemory() {
+        toList(TestTable.RunInTests, ["MacAddresses"]);
+        var codes = [];
+        for (var i = 0; i < 40; ++i)
+            codes.push("02");
+        runIn(codes, "time");
+        var failures = frame.runIn.failures;
+        compare(failures.length, 1);
+        compare(failures[0].times, 40);
+        compare(failures[0].loop, 1);
+        compare(frame.failureText(failures[0]), "Network addresses, loop 1, 2, 3, 4, 5 …");
+    }
+
+    function test_pagesThatCannotBeOpenedHoldUpNoRunIn() {
+        TestTable.rows.push({ name: "Broken", title: "kiv-test-battery", needs: [], page: "Broken.qml", glyph: "battery",
+                              kind: "measured", seconds: 1, timeout: 60, alone: true });
+        ignoreWarning(/Broken.qml.*No such file/);
+        ignoreWarning(/Broken.qml.*No such file/);
+        toList(TestTable.RunInTests, ["Broken"]);
+        TestTable.rows.pop();
+        mouseClick(find("start"));
+        var run = frame.runIn;
+        run.stopOnFailure = false;
+        mouseClick(find("runInStart"));
+        verify(run.running);
+        tryVerify(function() { return run.loop === 2; }, 5000);
+        run.stop("operator");
+        compare(run.code, FactoryUtils.Fail);
+    }
+
+    function test_heatThatNobodyCanMeasureIsSaid() {
+        Phone.setBattery({ temperature: undefined });
+        toList(TestTable.RunInTests, ["Calibration"]);
+        mouseClick(find("start"));
+        verify(find("heatUnknown").visible);
+        mouseClick(find("runInStart"));
+        verify(frame.heatUnknown);
+        Phone.setBattery({ temperature: 30 });
+        frame.runIn.sample();
+        verify(!frame.heatUnknown);
+    }
+
+    function test_anAddressThatIsNoneFitsTheCode() {
+        toList(TestTable.FactoryTests, ["MacAddresses"]);
+        var text = Report.codeText(shell.flow, { wlan: "a\rRESULT 01", calibrated: false,
+                                                 bluetooth: new Array(5000).join("é") });
+        compare(text.split(/[\r\n]/).length, 7);
+        compare(text.split("\n")[1], "WLAN a?RESULT?01");
+        verify(text.length < 300);
+    }
+
+    function test_remarksOfAnyKindStayOneLine() {
+        toList(TestTable.FactoryTests, ["MacAddresses"]);
+        var reason = "\"quoted\"\n\\ \t\u2028 %1 %n \ud83d\ude00";
+        shell.flow.record("MacAddresses", { code: FactoryUtils.Fail, decided: "02", reason: reason, seconds: 2 });
+        var line = Report.verdict(0, "MacAddresses", kept("MacAddresses"), "");
+        verify(/^[\x20-\x7e]+$/.test(line), line);
+        compare(JSON.parse(line).reason, reason);
+        shell.show("SummaryScreen");
+        verify(frame.remark(frame.sorted[0]).indexOf(reason) >= 0);
+    }
+}
