@@ -26,6 +26,7 @@ Item {
     property var pages: ({})
     /*! Whether the present test was opened by itself from the list. */
     property bool single: false
+    property bool quitting: false
 
     /*! A page is gone; what it needed can be given back. */
     signal pageClosed()
@@ -149,6 +150,8 @@ Item {
 
     /*! A short sound: "pass", "fail" or "attention". */
     function cue(name) {
+        if (quitting)
+            return;
         cues.active = true;
         cues.item.play(name);
     }
@@ -193,13 +196,23 @@ Item {
             item.clicked();
     }
 
+    // Not to what a sheet covers: nobody would see it.
     function moveFocus(forward) {
-        var from = Window.activeFocusItem || shell;
-        var item = from.nextItemInFocusChain(forward);
+        var sheet = screen.sheet && screen.sheet.isOpen ? screen.sheet : null;
+        var first = Window.activeFocusItem || shell, item = first;
+        do {
+            item = item.nextItemInFocusChain(forward);
+        } while (item && item !== first && sheet && !isInside(item, sheet));
         if (!item)
             return;
         item.forceActiveFocus(Qt.TabFocusReason);
         reveal(item);
+    }
+
+    function isInside(item, other) {
+        while (item && item !== other)
+            item = item.parent;
+        return item === other;
     }
 
     function reveal(item) {
@@ -237,8 +250,10 @@ Item {
             screen.sideKeyReleased(key);
     }
 
-    /*! Leaves the present test without a verdict. */
+    /*! Leaves the present test. Without a verdict, unless the page has measured one. */
     function leaveTest() {
+        if (screen.keepMeasured)
+            screen.keepMeasured();
         leaveScreen();
         flow.start([]);
         showList();
@@ -284,6 +299,17 @@ Item {
     }
 
     Component.onCompleted: begin()
+
+    // What was measured is not lost, and the phone is put back while everything is still there.
+    Connections {
+        target: Qt.application
+        function onAboutToQuit() {
+            shell.quitting = true;
+            if (screen && screen.keepMeasured)
+                screen.keepMeasured();
+            shell.leaveScreen();
+        }
+    }
 
     LayoutMirroring.enabled: Theme.mirrored
     LayoutMirroring.childrenInherit: true

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
+import QtQuick.Window 2.15
 
 /*!
  * A question over the whole screen, with its answers as large buttons. Nothing beneath can be pressed meanwhile. The keys
@@ -18,6 +19,8 @@ Rectangle {
     property string cancelText
     readonly property bool isOpen: visible
     property var answer: null
+    /*! Who had the keys before: the key test needs them again. */
+    property Item focusBefore: null
 
     /*! Calls then(option) with the option that was chosen; nothing is called for the answer that changes nothing. */
     function ask(question, then) {
@@ -27,12 +30,17 @@ Rectangle {
         options = question.options;
         cancelText = question.cancelText || "";
         answer = then;
+        if (!visible)
+            focusBefore = Window.activeFocusItem;
         visible = true;
         if (buttons.count > 0)
             buttons.itemAt(0).forceActiveFocus(Qt.TabFocusReason);
     }
 
     function close() {
+        if (visible && focusBefore)
+            focusBefore.forceActiveFocus();
+        focusBefore = null;
         visible = false;
         answer = null;
     }

@@ -17,6 +17,9 @@ TestPage {
             return;
         heading = sensor.reading.azimuth;
         azimuth.value = heading;
+        // What is no number lies in no direction.
+        if (!isFinite(heading))
+            return;
         level.value = 100 * sensor.reading.calibrationLevel;
         var sector = Math.floor((((heading % 360) + 360) % 360) / (360 / sectors));
         if (seen.indexOf(sector) < 0)

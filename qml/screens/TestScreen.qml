@@ -35,6 +35,9 @@ Item {
     property int secondsLeft: 0
     property bool timedOut: false
     property real started: 0
+    /*! Milliseconds that this attempt has taken; see tick(). */
+    property real spent: 0
+    property real lastTick: 0
     property bool recorded: false
 
     function blocking(text, job) {
@@ -54,20 +57,41 @@ Item {
         sheet.close();
         hint.text = "";
         advance.stop();
-        started = Date.now();
+        started = lastTick = Date.now();
+        spent = 0;
         secondsLeft = row.timeout;
         timedOut = false;
         loader.source = "";
         loader.setSource("../pages/" + row.page, { "frame": screen, "row": row });
     }
 
-    /*! The page anew; what it had found out stays counted. */
+    /*! The page anew. A failure that was measured stands until there is another verdict; the attempt counts anyway. */
     function retry() {
-        flow.noteAttempt(row.name, outcome(decided === "" ? FactoryUtils.Untest : decided));
+        if (decided === FactoryUtils.Fail)
+            flow.record(row.name, outcome(decided));
+        else
+            flow.noteAttempt(row.name, outcome(decided === "" ? FactoryUtils.Untest : decided));
         load();
     }
 
+    /*! The operator leaves without a word: what the page has measured is its verdict. */
+    function keepMeasured() {
+        if (decided === "" || recorded)
+            return;
+        recorded = true;
+        advance.stop();
+        flow.record(row.name, outcome(decided));
+    }
+
+    // Satellites and networks set the clock meanwhile: a leap of it is not time that was spent.
+    function tick() {
+        var now = Date.now();
+        spent += Math.max(0, Math.min(60000, now - lastTick));
+        lastTick = now;
+    }
+
     function outcome(code) {
+        tick();
         return {
             "code": code,
             "decided": decided,
@@ -75,14 +99,14 @@ Item {
             "reason": broken ? qsTrId("kiv-page-broken") : absent ? page.missing
                       : page ? page.reason || page.trouble : "",
             "timedOut": timedOut,
-            "seconds": Math.round((Date.now() - started) / 1000),
+            "seconds": Math.round(spent / 1000),
             "readings": page ? page.measurements.map(Report.reading) : []
         };
     }
 
     /*! The operator's choice; against a measurement he has to say why. */
     function choose(code) {
-        if (recorded || sheet.isOpen)
+        if (recorded || sheet.isOpen || (code === FactoryUtils.Pass && !passUnlocked))
             return;
         if (decided !== "" && decided !== code)
             askWhyOverruled(code);
@@ -214,8 +238,10 @@ Item {
         goOn();
     }
 
-    /*! A pass that was measured needs nobody; a failure waits for a look at it. */
+    /*! A pass that was measured needs nobody; a failure waits for a look at it. Who goes on testing gets time anew. */
     function goOn() {
+        if (secondsLeft <= 0)
+            secondsLeft = row ? row.timeout : 0;
         if (decided === FactoryUtils.Pass && !sheet.isOpen && !recorded)
             advance.start();
     }
@@ -340,6 +366,13 @@ Item {
             if (--screen.secondsLeft === 0)
                 screen.askAfterTimeOut();
         }
+    }
+
+    Timer {
+        interval: 1000
+        repeat: true
+        running: !screen.recorded
+        onTriggered: screen.tick()
     }
 
     Timer {

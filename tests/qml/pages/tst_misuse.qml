@@ -177,6 +177,120 @@ Driver {
         verify(!frame.heatUnknown);
     }
 
+    function test_aMeasuredFailureIsNotLostByLeaving() {
+        Phone.setBattery({ health: "Dead" });
+        startSequence(["VerificationBattery", "MacAddresses"]);
+        shell.flow.record("VerificationBattery", { code: FactoryUtils.Pass, decided: "01", reason: "", seconds: 2 });
+        tryVerify(function() { return page.verdict === FactoryUtils.Fail; }, 10000);
+        shell.leaveTest();
+        compare(screenName(), "ListScreen");
+        compare(kept("VerificationBattery").code, FactoryUtils.Fail);
+        compare(kept("VerificationBattery").attempts, 2);
+    }
+
+    function test_aMeasuredFailureIsNotLostByRetrying() {
+        Phone.setBattery({ health: "Dead" });
+        startSequence(["VerificationBattery", "MacAddresses"]);
+        tryVerify(function() { return page.verdict === FactoryUtils.Fail; }, 10000);
+        var before = page;
+        mouseClick(find("retry"));
+        tryVerify(function() { return page && page !== before && page.isOpen; });
+        shell.leaveTest();
+        compare(kept("VerificationBattery").code, FactoryUtils.Fail);
+        compare(kept("VerificationBattery").attempts, 1);
+        // What passes then has still failed once.
+        Phone.setBattery({ health: "Good" });
+        shell.openSingle(TestTable.row("VerificationBattery"));
+        tryVerify(function() { return screenName() === "ListScreen"; }, 15000);
+        compare(kept("VerificationBattery").code, FactoryUtils.Pass);
+        shell.show("SummaryScreen");
+        verify(frame.remark(frame.sorted.filter(function(entry) {
+            return entry.row.name === "VerificationBattery";
+        })[0]).indexOf("Attempts that failed: 1") >= 0);
+    }
+
+    function test_nothingPassesALockedPage() {
+        openTest("VerificationHallDetect");
+        // As a screen reader presses it, or a key: without a look at whether it can be pressed.
+        find("pass").activated();
+        verify(!kept("VerificationHallDetect"));
+        frame.choose(FactoryUtils.Pass);
+        verify(!kept("VerificationHallDetect"));
+    }
+
+    function test_whoGoesOnAfterATimeOutIsAskedAgain() {
+        startSequence(["VerificationHallDetect", "VerificationBattery"]);
+        for (var i = 0; i < 2; ++i) {
+            frame.secondsLeft = 1;
+            tryVerify(function() { return find("sheet").isOpen; }, 3000);
+            answer("skip");
+            answer("cancel");
+            verify(!find("sheet").isOpen);
+            verify(frame.secondsLeft > 30, "the clock runs again");
+        }
+    }
+
+    function test_theKeyTestHasItsKeysAgainAfterAQuestion() {
+        startSequence(["VerificationKey"]);
+        frame.secondsLeft = 1;
+        tryVerify(function() { return find("sheet").isOpen; }, 3000);
+        answer("wait");
+        Phone.keys.forEach(function(key) { keyClick(key); });
+        compare(page.verdict, FactoryUtils.Pass);
+    }
+
+    function test_aKeyThatIsNotAskedForDoesNotTakeTheOthers() {
+        Phone.keys = [Qt.Key_VolumeUp];
+        startSequence(["VerificationKey"]);
+        keyClick(Qt.Key_VolumeDown);
+        keyClick(Qt.Key_VolumeDown);
+        keyClick(Qt.Key_Standby);
+        verify(!kept("VerificationKey"));
+        compare(screenName(), "TestScreen");
+        keyClick(Qt.Key_VolumeUp);
+        compare(page.verdict, FactoryUtils.Pass);
+    }
+
+    function test_withoutKeysToTestTheKeysJudge() {
+        Phone.keys = [];
+        startSequence(["VerificationKey", "MacAddresses"]);
+        verify(frame.absent);
+        keyClick(Qt.Key_VolumeDown);
+        compare(kept("VerificationKey").code, FactoryUtils.Fail);
+    }
+
+    function test_keysStayOnTheSheet() {
+        startSequence(["VerificationHallDetect", "MacAddresses"]);
+        frame.secondsLeft = 1;
+        tryVerify(function() { return find("sheet").isOpen; }, 3000);
+        var seen = {};
+        for (var i = 0; i < 12; ++i) {
+            seen[shell.Window.activeFocusItem.objectName] = true;
+            keyClick(Qt.Key_VolumeDown);
+        }
+        compare(Object.keys(seen).sort(), ["choice-fail", "choice-retry", "choice-skip", "choice-wait"]);
+    }
+
+    function test_keysDoNotReachTheSummaryBehindItsCode() {
+        toList(TestTable.FactoryTests, ["MacAddresses"]);
+        shell.flow.record("MacAddresses", { code: FactoryUtils.Pass, decided: "01", reason: "", seconds: 2 });
+        shell.show("SummaryScreen");
+        mouseClick(find("code"));
+        for (var i = 0; i < 6; ++i) {
+            verify(["copy", "close"].indexOf(shell.Window.activeFocusItem.objectName) >= 0,
+                   shell.Window.activeFocusItem.objectName);
+            keyClick(Qt.Key_VolumeDown);
+        }
+    }
+
+    function test_aClockThatIsSetTakesNoTime() {
+        openTest("VerificationHallDetect");
+        frame.lastTick -= 40 * 365 * 86400000;
+        tap("fail");
+        verify(kept("VerificationHallDetect").seconds <= 70, kept("VerificationHallDetect").seconds);
+        verify(kept("VerificationHallDetect").seconds >= 0);
+    }
+
     function test_anAddressThatIsNoneFitsTheCode() {
         toList(TestTable.FactoryTests, ["MacAddresses"]);
         var text = Report.codeText(shell.flow, { wlan: "a\rRESULT 01", calibrated: false,
