@@ -40,6 +40,7 @@ Item {
         if (working.item)
             working.item.cancel();
         leaveScreen();
+        Scene.changed();
         screens.setSource("screens/" + name + ".qml", { "shell": shell });
         if (screen)
             screen.focus = true;
@@ -381,5 +382,24 @@ Item {
         anchors.fill: parent
         active: false
         source: "controls/Working.qml"
+    }
+
+    // A finger that trembles taps twice. What its first tap has brought must not take the second.
+    MouseArea {
+        readonly property int quickMs: 300
+        property real lastTime: 0
+        property point lastPlace
+        property int lastChanges: -1
+
+        anchors.fill: parent
+        onPressed: {
+            var now = Date.now();
+            mouse.accepted = now - lastTime >= 0 && now - lastTime < quickMs && lastChanges !== Scene.changes
+                             && Math.abs(mouse.x - lastPlace.x) < Theme.target
+                             && Math.abs(mouse.y - lastPlace.y) < Theme.target;
+            lastTime = now;
+            lastPlace = Qt.point(mouse.x, mouse.y);
+            lastChanges = Scene.changes;
+        }
     }
 }

@@ -31,7 +31,7 @@ STATE = 'state: '
 ENDED = 'kiv-ended: '
 DONE = 'shell-done: '
 # How long something must stand still on the screen before a finger goes for it.
-STILL = 0.2
+STILL = 0.35
 SERIAL = itertools.count()
 
 PASSED, FAILED = '01', '02'

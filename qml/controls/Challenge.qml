@@ -98,6 +98,7 @@ Column {
     }
 
     function pose(round) {
+        Scene.changed();
         state.round = round;
         state.expected = state.drawn[round];
         posed(state.expected);

@@ -23,6 +23,7 @@ Column {
         if (!asking || state.failed || complete)
             return;
         var question = questions[state.answered];
+        Scene.changed();
         if (yes !== (question.good !== false)) {
             state.failed = true;
             failed(question.bad);

@@ -57,6 +57,9 @@ Rectangle {
     Accessible.role: Accessible.Dialog
     Accessible.name: title
 
+    onVisibleChanged: Scene.changed()
+    onOptionsChanged: Scene.changed()
+
     MouseArea {
         anchors.fill: parent
     }

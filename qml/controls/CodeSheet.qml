@@ -20,6 +20,8 @@ Rectangle {
     Accessible.role: Accessible.Dialog
     Accessible.name: qsTrId("kiv-summary-code")
 
+    onVisibleChanged: Scene.changed()
+
     MouseArea {
         anchors.fill: parent
     }

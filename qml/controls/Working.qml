@@ -4,7 +4,8 @@ import QtQuick.Window 2.15
 
 /*!
  * Covers the screen while a call blocks the whole interface. run() draws the cover first, so that what is frozen on the
- * screen says why.
+ * screen says why. It stays for a moment afterwards: whatever was tapped on a frozen screen arrives only then, and was
+ * not meant for what is there now.
  */
 Rectangle {
     id: working
@@ -13,6 +14,8 @@ Rectangle {
     property string text
     property var job: null
     property int framesToDraw: 0
+    /*! The job is being done, or has just been done. */
+    readonly property alias settling: state.settling
 
     function run(newText, newJob) {
         text = newText;
@@ -33,12 +36,18 @@ Rectangle {
     function finish() {
         fallback.stop();
         var todo = job;
+        if (!todo)
+            return;
+        state.settling = true;
         job = null;
-        if (todo)
+        try {
             todo();
+        } finally {
+            settle.restart();
+        }
     }
 
-    visible: job !== null
+    visible: job !== null || settling
     color: Theme.background
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
@@ -83,5 +92,14 @@ Rectangle {
         id: fallback
         interval: 500
         onTriggered: working.finish()
+    }
+    Timer {
+        id: settle
+        interval: 150
+        onTriggered: state.settling = false
+    }
+    QtObject {
+        id: state
+        property bool settling: false
     }
 }

@@ -40,6 +40,7 @@ Column {
     }
 
     function answer(side) {
+        Scene.changed();
         if (side !== sides[round]) {
             //: From which side a tone came, and from which the operator heard it
             //% "A tone played on the side \"%1\" was heard as \"%2\""

@@ -61,6 +61,7 @@ Item {
         spent = 0;
         secondsLeft = row.timeout;
         timedOut = false;
+        Scene.changed();
         loader.source = "";
         loader.setSource("../pages/" + row.page, { "frame": screen, "row": row });
     }
@@ -229,6 +230,7 @@ Item {
     }
 
     Component.onCompleted: load()
+    onFullScreenChanged: Scene.changed()
 
     onDecidedChanged: {
         hint.text = "";

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
+import QtQuick.Window 2.15
 import QtTest 1.15
 import Kiv 1.0
 import KivFake 1.0
 import "../../../qml"
+import "../../../qml/controls"
 
 /*! What the tests of the screens share: a shell in a window, and hands to work it. */
 TestCase {
@@ -52,9 +54,31 @@ TestCase {
     }
 
     function find(name) {
+        // What is tapped before that is meant for nothing.
+        var working = findChild(shell, "working");
+        if (working && working.settling)
+            tryVerify(function() { return !working.settling; });
         var found = findChild(shell, name);
         verify(found, name);
         return found;
+    }
+
+    property real lastClick: 0
+    property int lastChanges: -1
+
+    /*! A hand that sees what it taps: not so soon after a change that it would be a finger that trembles. */
+    function mouseClick(item, x, y) {
+        var due = lastClick + 320 - Date.now();
+        if (lastChanges !== Scene.changes && due > 0)
+            wait(due);
+        if (shell && item !== shell)
+            shell.reveal(item);
+        var middle = item.mapToItem(null, x === undefined ? item.width / 2 : x, y === undefined ? item.height / 2 : y);
+        lastClick = Date.now();
+        lastChanges = Scene.changes;
+        var window = item.Window.window.contentItem;
+        mousePress(window, middle.x, middle.y);
+        mouseRelease(window, middle.x, middle.y);
     }
 
     function tap(name) {

@@ -37,6 +37,21 @@ Driver {
         tryVerify(function() { return page && page.isOpen; });
     }
 
+    /*! Two taps as quick as they are where a finger trembles; the second meets what the first has brought. */
+    function tapTwice(x, y) {
+        var finger = touchEvent(shell);
+        for (var i = 0; i < 2; ++i) {
+            finger.press(0, shell, x, y).commit();
+            finger.release(0, shell, x, y).commit();
+            wait(60);
+        }
+    }
+
+    function tapItemTwice(item) {
+        var middle = item.mapToItem(shell, item.width / 2, item.height / 2);
+        tapTwice(middle.x, middle.y);
+    }
+
     /*! A run-in of which nothing but the end is of interest here. */
     function runIn(outcomes, end) {
         choose(TestTable.RunInTests);
@@ -281,6 +296,56 @@ Driver {
                    shell.Window.activeFocusItem.objectName);
             keyClick(Qt.Key_VolumeDown);
         }
+    }
+
+    function test_tapsOnAFrozenScreenReachNothing() {
+        startSequence(["VerificationHallDetect", "MacAddresses"]);
+        var button = find("fail"), middle = button.mapToItem(shell, button.width / 2, button.height / 2);
+        frame.blocking("Waiting", function() {
+            var begin = Date.now();
+            while (Date.now() - begin < 1000) {}
+        });
+        tryVerify(function() { return findChild(shell, "working").settling; });
+        // They were waiting for the screen, so they come before anything that was planned meanwhile.
+        mouseClick(shell, middle.x, middle.y);
+        verify(!kept("VerificationHallDetect"));
+        tryVerify(function() { return !shell.busy; });
+        mouseClick(shell, middle.x, middle.y);
+        compare(kept("VerificationHallDetect").code, FactoryUtils.Fail);
+    }
+
+    function test_aTremblingFingerFailsNoTest() {
+        toList(TestTable.FactoryTests, ["VerificationHallDetect", "MacAddresses"]);
+        var start = find("start");
+        var fail = Qt.point(start.mapToItem(shell, 0, 0).x + 40, start.mapToItem(shell, 0, start.height / 2).y);
+        tapTwice(fail.x, fail.y);
+        compare(screenName(), "TestScreen");
+        verify(!kept("VerificationHallDetect"));
+    }
+
+    function test_aTremblingFingerSkipsWithoutAReason() {
+        startSequence(["VerificationHallDetect", "MacAddresses"]);
+        frame.secondsLeft = 1;
+        tryVerify(function() { return find("sheet").isOpen; }, 3000);
+        tapItemTwice(find("choice-skip"));
+        verify(find("sheet").isOpen);
+        verify(!kept("VerificationHallDetect"), "it would be said that the phone is not meant to have it");
+    }
+
+    function test_aTremblingFingerForgetsNoResults() {
+        toList(TestTable.FactoryTests, ["MacAddresses"]);
+        shell.flow.record("MacAddresses", { code: FactoryUtils.Pass, decided: "01", reason: "", seconds: 2 });
+        shell.show("SummaryScreen");
+        mouseClick(find("code"));
+        tapItemTwice(find("close"));
+        compare(screenName(), "SummaryScreen");
+        compare(kept("MacAddresses").code, FactoryUtils.Pass);
+    }
+
+    function test_aTremblingFingerAnswersOneQuestion() {
+        openTest("VerificationFingerprint");
+        tapItemTwice(find("yes"));
+        compare(page.verdict, "", "the second question is another one");
     }
 
     function test_aClockThatIsSetTakesNoTime() {
