@@ -189,7 +189,7 @@ Item {
 
     function pressFocused() {
         var item = Window.activeFocusItem;
-        if (!item || !item.enabled)
+        if (!item || !item.enabled || !item.visible)
             return;
         if (item.activated)
             item.activated();
@@ -384,7 +384,8 @@ Item {
         source: "controls/Working.qml"
     }
 
-    // A finger that trembles taps twice. What its first tap has brought must not take the second.
+    // A finger that trembles taps twice: what its first tap has brought must not take the second. Nor must a question that
+    // comes by itself take the tap that was meant for what it covers.
     MouseArea {
         readonly property int quickMs: 300
         property real lastTime: 0
@@ -394,9 +395,11 @@ Item {
         anchors.fill: parent
         onPressed: {
             var now = Date.now();
-            mouse.accepted = now - lastTime >= 0 && now - lastTime < quickMs && lastChanges !== Scene.changes
-                             && Math.abs(mouse.x - lastPlace.x) < Theme.target
-                             && Math.abs(mouse.y - lastPlace.y) < Theme.target;
+            var twice = now - lastTime >= 0 && now - lastTime < quickMs && lastChanges !== Scene.changes
+                        && Math.abs(mouse.x - lastPlace.x) < Theme.target
+                        && Math.abs(mouse.y - lastPlace.y) < Theme.target;
+            // A clock that is set back must not make it deaf for years.
+            mouse.accepted = twice || (now < Scene.deafUntil && Scene.deafUntil - now <= 400);
             lastTime = now;
             lastPlace = Qt.point(mouse.x, mouse.y);
             lastChanges = Scene.changes;

@@ -9,7 +9,16 @@ import QtQuick 2.15
 QtObject {
     property int changes: 0
 
+    /*! Until then, in milliseconds since 1970, no tap counts. */
+    property real deafUntil: 0
+
     function changed() {
         ++changes;
+    }
+
+    /*! It changes by itself, perhaps under a finger that is on its way to something else. */
+    function surprise() {
+        changed();
+        deafUntil = Date.now() + 400;
     }
 }

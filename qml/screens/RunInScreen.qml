@@ -45,6 +45,8 @@ Item {
     function openTest() {
         closePage();
         testSeconds = 0;
+        // Whoever wakes the panel with the power key does not mean the button that ends the run-in.
+        screen.forceActiveFocus();
         loader.setSource("../pages/" + runIn.row.page, { "frame": screen, "row": runIn.row });
     }
 

@@ -181,6 +181,7 @@ Item {
 
     function askAfterTimeOut() {
         timedOut = true;
+        Scene.surprise();
         shell.cue("attention");
         sheet.ask({
             //% "Time is up"

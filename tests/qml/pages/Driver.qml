@@ -71,6 +71,7 @@ TestCase {
         var due = lastClick + 320 - Date.now();
         if (lastChanges !== Scene.changes && due > 0)
             wait(due);
+        wait(Math.max(0, Scene.deafUntil - Date.now()));
         if (shell && item !== shell)
             shell.reveal(item);
         var middle = item.mapToItem(null, x === undefined ? item.width / 2 : x, y === undefined ? item.height / 2 : y);

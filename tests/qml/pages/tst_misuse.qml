@@ -314,6 +314,36 @@ Driver {
         compare(kept("VerificationHallDetect").code, FactoryUtils.Fail);
     }
 
+    function test_aQuestionThatComesByItselfTakesNoTap() {
+        startSequence(["VerificationFingerprint", "MacAddresses"]);
+        frame.secondsLeft = 1;
+        tryVerify(function() { return find("sheet").isOpen; }, 3000);
+        var button = find("choice-fail"), middle = button.mapToItem(shell, button.width / 2, button.height / 2);
+        mousePress(shell, middle.x, middle.y);
+        mouseRelease(shell, middle.x, middle.y);
+        verify(!kept("VerificationFingerprint"));
+        verify(find("sheet").isOpen);
+        mouseClick(button);
+        compare(kept("VerificationFingerprint").code, FactoryUtils.Fail);
+    }
+
+    function test_thePowerKeyAloneEndsNoRunIn() {
+        toList(TestTable.RunInTests, ["VerificationLcd"]);
+        mouseClick(find("start"));
+        mouseClick(find("runInStart"));
+        var run = frame.runIn;
+        tryVerify(function() { return frame.fullScreen; });
+        keyClick(Qt.Key_Standby);
+        verify(run.running, "it only wakes the panel");
+        // Who has gone to the button means it.
+        keyClick(Qt.Key_VolumeDown);
+        mouseClick(shell, 100, 100);
+        keyClick(Qt.Key_VolumeDown);
+        compare(shell.Window.activeFocusItem.objectName, "runInStart");
+        keyClick(Qt.Key_Standby);
+        compare(run.end, "operator");
+    }
+
     function test_aTremblingFingerFailsNoTest() {
         toList(TestTable.FactoryTests, ["VerificationHallDetect", "MacAddresses"]);
         var start = find("start");
