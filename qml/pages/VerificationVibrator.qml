@@ -70,6 +70,8 @@ TestPage {
         id: challenge
         width: parent.width
         ready: !pulses.running
+        // Once, somebody who always says the same would pass a dead motor nearly every second time.
+        rounds: 2
         //% "How many pulses did you feel?"
         question: qsTrId("kiv-vibrator-question")
         values: [1, 2, 3, 4]
