@@ -61,13 +61,13 @@ Item {
             //% "Attempts: %1"
             parts.push(qsTrId("kiv-summary-attempts").arg(result.attempts));
         // A part that fails now and then is not hidden by an attempt at which it did not.
+        var failures = result.history.filter(function(attempt) { return attempt.code === FactoryUtils.Fail; }).length;
         var loops = flow.ending && flow.ending.failedLoops ? flow.ending.failedLoops[entry.row.name] : undefined;
         if (loops)
             //: Numbers of loops
             //% "Failed in the run-in, loop %1"
             parts.push(qsTrId("kiv-summary-failed-loops").arg(loops.join(", ")));
-        var failures = result.history.filter(function(attempt) { return attempt.code === FactoryUtils.Fail; }).length;
-        if (failures > 0 && result.code !== FactoryUtils.Fail)
+        else if (failures > 0 && result.code !== FactoryUtils.Fail)
             //% "Attempts that failed: %1"
             parts.push(qsTrId("kiv-summary-failed-attempts").arg(failures));
         if (result.spent)
