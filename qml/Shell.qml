@@ -306,8 +306,8 @@ Item {
         target: Qt.application
         function onAboutToQuit() {
             shell.quitting = true;
-            if (screen && screen.keepMeasured)
-                screen.keepMeasured();
+            if (shell.screen && shell.screen.keepMeasured)
+                shell.screen.keepMeasured();
             shell.leaveScreen();
         }
     }
