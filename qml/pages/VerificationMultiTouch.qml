@@ -36,7 +36,10 @@ TestPage {
         fullScreen = true;
         patienceTimer.start();
     }
-    onClosing: patienceTimer.stop()
+    onClosing: {
+        patienceTimer.stop();
+        allSeen.stop();
+    }
 
     cover: Rectangle {
         color: Theme.background
@@ -82,7 +85,7 @@ TestPage {
                 page.idle = 0;
                 page.most = Math.max(page.most, down.length);
                 if (down.length === 0 && page.most >= page.wanted)
-                    page.finish();
+                    allSeen.start();
             }
 
             Repeater {
@@ -102,6 +105,12 @@ TestPage {
         }
     }
 
+    // Not while the touch is being delivered, which would leave Qt with an area that is gone.
+    Timer {
+        id: allSeen
+        interval: 0
+        onTriggered: page.finish()
+    }
     Timer {
         id: patienceTimer
         interval: 1000

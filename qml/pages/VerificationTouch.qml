@@ -30,7 +30,7 @@ TestPage {
         --remaining;
         cellTouched(index);
         if (remaining === 0)
-            finish();
+            whole.start();
     }
 
     function finish() {
@@ -56,7 +56,10 @@ TestPage {
         fullScreen = true;
         patienceTimer.start();
     }
-    onClosing: patienceTimer.stop()
+    onClosing: {
+        patienceTimer.stop();
+        whole.stop();
+    }
 
     cover: Rectangle {
         color: Theme.background
@@ -129,6 +132,12 @@ TestPage {
         }
     }
 
+    // Not while the touch is being delivered: Qt gives its other end to the grid, which would be gone.
+    Timer {
+        id: whole
+        interval: 0
+        onTriggered: page.finish()
+    }
     Timer {
         id: patienceTimer
         interval: 1000

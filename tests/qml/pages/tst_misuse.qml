@@ -382,6 +382,31 @@ Driver {
         compare(page.verdict, "", "the second question is another one");
     }
 
+    function test_theGridOutlivesItsLastTouch() {
+        openTest("VerificationTouch");
+        tryVerify(function() { return page.fullScreen; });
+        for (var index = 0; index < page.total; ++index)
+            page.touch(index % page.columns + 0.5, Math.floor(index / page.columns) + 0.5, page.columns, page.rows);
+        compare(page.remaining, 0);
+        verify(page.fullScreen, "the touch is still being delivered");
+        tryCompare(page, "verdict", FactoryUtils.Pass);
+        verify(!page.fullScreen);
+    }
+
+    function test_theLastCellMayBeTapped() {
+        openTest("VerificationTouch");
+        tryVerify(function() { return page.fullScreen; });
+        for (var index = 0; index < page.total - 1; ++index)
+            page.touch(index % page.columns + 0.5, Math.floor(index / page.columns) + 0.5, page.columns, page.rows);
+        compare(page.remaining, 1);
+        var finger = touchEvent(shell);
+        // A grid that goes while the press is being delivered would get the release, and Kiv would crash.
+        finger.press(0, shell, shell.width - 10, shell.height - 10).commit();
+        finger.release(0, shell, shell.width - 10, shell.height - 10).commit();
+        tryCompare(page, "verdict", FactoryUtils.Pass);
+        verify(!page.fullScreen);
+    }
+
     function test_aClockThatIsSetTakesNoTime() {
         openTest("VerificationHallDetect");
         frame.lastTick -= 40 * 365 * 86400000;
