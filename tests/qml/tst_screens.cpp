@@ -43,12 +43,15 @@ const State States[] = {
     {"summary", "children[children.length - 1].open(shell.codeText())"},
     {"runin",
      "runIn.loop = 12, runIn.elapsed = 7205, runIn.failures = [{ row: runIn.rows[0], loop: 7, times: 9, "
-     "loops: [7, 8, 9, 10, 11], reason: qsTrId('kiv-run-in-timeout') }], runIn.temperature.add(48.25), runIn.end = 'failure'"},
+     "loops: [7, 8, 9, 10, 11], reason: qsTrId('kiv-run-in-timeout') }], "
+     "runIn.temperature.add(48.25), runIn.end = 'failure'"},
     {"runin", "runIn.temperature.now = NaN"},
     {"summary",
-     "flow.mode = 1, flow.runInEnding = { why: 'time', code: '00', failedLoops: { TouchSelfTest: [3, 7, 40, 112, 240] }, "
+     "flow.mode = 1, flow.runInEnding = { why: 'time', code: '00', "
+     "failedLoops: { TouchSelfTest: [3, 7, 40, 112, 240] }, "
      "text: qsTrId('kiv-run-in-end-time') + '\\n' + qsTrId('kiv-run-in-again') }, "
-     "flow.record('TouchSelfTest', { code: '02', seconds: 3 }), flow.record('TouchSelfTest', { code: '00', seconds: 3 })"},
+     "flow.record('TouchSelfTest', { code: '02', seconds: 3 }), flow.record('TouchSelfTest', { code: '00', seconds: 3 "
+     "})"},
     {"runin", "runIn.temperature.add(55.5), runIn.temperature.add(61), runIn.end = 'temperature'"},
     {"runin", "runIn.machineStart = runIn.machineStartNow = new Date(2026, 1, 2), runIn.end = 'restart'"},
 };
