@@ -58,7 +58,7 @@ const QByteArray Playing =
 class TimerCatcher : public QObject
 {
 public:
-    TimerCatcher() { qApp->installEventFilter(this); }
+    TimerCatcher() { QCoreApplication::instance()->installEventFilter(this); }
     QPointer<QTimer> caught;
 
 protected:

@@ -4,9 +4,9 @@ import Kiv 1.0
 import "../controls"
 
 /*!
- * A page cannot switch the notification light, but the phone lights it while it charges, and charging can be switched. So
- * the operator names the colour, and then says what the light shows while charging is off or on by chance. Where charging
- * cannot be switched, or the light does not follow it, he unplugs the charger by hand.
+ * A page cannot switch the notification light, but the phone lights it while it charges, and charging can be switched.
+ * So the operator names the colour, and then says what the light shows while charging is off or on by chance. Where
+ * charging cannot be switched, or the light does not follow it, he unplugs the charger by hand.
  */
 TestPage {
     id: page
@@ -246,7 +246,7 @@ TestPage {
         //: What the operator saw of the notification light
         //% "The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off."
         onPassed: page.judge(FactoryUtils.Pass, qsTrId("kiv-led-good-switched").arg(page.seen.text))
-        // A slip of the finger, a light that shows something else, or one that is faulty: by hand it is told from the start.
+        // A slip of the finger, a light that shows something else, or a faulty one: by hand it is told from the start.
         onFailed: {
             page.seen = null;
             page.goOnByHand();
