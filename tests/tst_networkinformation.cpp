@@ -13,8 +13,8 @@
 namespace
 {
 // An element that was not looked after stood still within the first hundred.
-constexpr int Elements = 400;
-constexpr unsigned Patience = 60; // seconds, then SIGALRM ends the test
+constexpr int Elements = 200;
+constexpr unsigned Patience = 120; // seconds, then SIGALRM ends the test
 const char Interface[] = "import QtQml 2.15\n"
                          "import QtSystemInfo 5.0\n"
                          "QtObject {\n"
