@@ -117,9 +117,11 @@ TestPage {
         battery.enableCharger();
     }
 
+    /*! From the start: the battery may notice only now what was switched, and that is nobody unplugging the charger. */
     function goOnByHand() {
         challenge.stop();
         byHand = true;
+        seen = null;
         if (chargerOff)
             //% "Switching charging"
             blocking(qsTrId("kiv-led-switching"), switchOn);
@@ -247,10 +249,7 @@ TestPage {
         //% "The operator saw the light while the phone charged (%1), and dark whenever Kiv had switched charging off."
         onPassed: page.judge(FactoryUtils.Pass, qsTrId("kiv-led-good-switched").arg(page.seen.text))
         // A slip of the finger, a light that shows something else, or a faulty one: by hand it is told from the start.
-        onFailed: {
-            page.seen = null;
-            page.goOnByHand();
-        }
+        onFailed: page.goOnByHand()
     }
     Checks {
         width: parent.width

@@ -461,6 +461,12 @@ Driver {
         compare(shown("yes").length, 0);
         tryVerify(function() { return shown("answer-orange").length === 0; }, 15000);
         tryVerify(function() { return Phone.log[Phone.log.length - 1] === "enableCharger"; });
+        // The battery notices too late, and that charging is on again.
+        Phone.setBattery({ status: "Discharging" });
+        wait(1500);
+        compare(shown("yes").length, 0);
+        Phone.setBattery({ status: "Charging" });
+        press("light-orange");
         compare(shown("yes").length, 0);
         Phone.setBattery({ status: "Discharging" });
         answer(false);
