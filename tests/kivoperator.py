@@ -252,29 +252,33 @@ class Phone:
             raise AssertionError('phonectl %s: %s' % (' '.join(map(str, words)), error))
         return output
 
+    def see(self, condition, what, timeout=TIMEOUT):
+        """Waits until the condition holds of what is to be seen; returns that."""
+        return self.until(lambda: self.state and condition(self.state) and self.state, what, timeout)
+
     def wait(self, timeout=TIMEOUT, **conditions):
         """Waits until the screen is such that all the conditions hold; returns what is to be seen then."""
-        def holds():
-            return self.state and all(
-                condition(self.state.get(name)) if callable(condition) else self.state.get(name) == condition
-                for name, condition in conditions.items()) and self.state
-        return self.until(holds, conditions, timeout)
+        return self.see(lambda state: all(
+            condition(state.get(name)) if callable(condition) else state.get(name) == condition
+            for name, condition in conditions.items()), conditions, timeout)
 
-    def find_button(self, name):
-        """Where the button is, once it has come to rest and can be pressed."""
-        def place():
-            button = self.state and self.state['buttons'].get(name)
+    def find_button(self, name, unless=lambda state: False):
+        """Where the button is, once it has come to rest and can be pressed; None if the other holds before that."""
+        def place(state):
+            button = None if unless(state) else state['buttons'].get(name)
             return button if button and button['enabled'] else None
         while True:
-            button = self.until(place, 'the button ' + name)
+            button = place(self.see(lambda state: unless(state) or place(state), 'the button ' + name))
+            if not button:
+                return None
             if button['hidden']:
                 self.scroll(button)
                 continue
             end = time.monotonic() + STILL
             with self.news:
-                while place() == button and time.monotonic() < end:
+                while place(self.state) == button and time.monotonic() < end:
                     self.news.wait(max(0.001, end - time.monotonic()))
-                if place() == button:
+                if place(self.state) == button:
                     return button['at']
 
     def scroll(self, button):
@@ -294,10 +298,13 @@ class Phone:
         self.control('finger', 'tap', *self.find_button(name))
 
     def hold(self, name, until):
-        """Holds a button down until the screen has changed so."""
-        self.control('finger', 'put', 0, *self.find_button(name))
+        """Holds a button down until the screen has changed so, if it does not do so by itself."""
+        place = self.find_button(name, until)
+        if not place:
+            return
+        self.control('finger', 'put', 0, *place)
         try:
-            self.until(until, 'what holding %s does' % name)
+            self.see(until, 'what holding %s does' % name)
         finally:
             self.control('finger', 'lift')
 
