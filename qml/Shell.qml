@@ -201,13 +201,18 @@ Item {
     function moveFocus(forward) {
         var sheet = screen.sheet && screen.sheet.isOpen ? screen.sheet : null;
         var first = Window.activeFocusItem || shell, item = first;
+        if (first.turn && first.turn(forward))
+            return;
         do {
             item = item.nextItemInFocusChain(forward);
         } while (item && item !== first && sheet && !isInside(item, sheet));
         if (!item)
             return;
         item.forceActiveFocus(Qt.TabFocusReason);
-        reveal(item);
+        if (item.enter)
+            item.enter(forward);
+        else
+            reveal(item);
     }
 
     function isInside(item, other) {

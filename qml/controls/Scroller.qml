@@ -8,6 +8,8 @@ Flickable {
     default property alias content: column.data
     property alias spacing: column.spacing
     property real padding: Theme.margin
+    /*! Whether it holds more than buttons: something to be read. */
+    property bool readable: false
 
     clip: true
     contentWidth: width
@@ -34,5 +36,9 @@ Flickable {
         opacity: 0.6
         y: scroller.visibleArea.yPosition * scroller.height
         height: scroller.visibleArea.heightRatio * scroller.height
+    }
+    Reader {
+        view: scroller
+        enabled: scroller.readable
     }
 }

@@ -16,6 +16,7 @@ Item {
         title: qsTrId("kiv-disclaimer-title")
     }
     Scroller {
+        readable: true
         anchors.top: header.bottom
         anchors.bottom: footer.top
         width: parent.width

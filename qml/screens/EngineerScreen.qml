@@ -93,6 +93,7 @@ Item {
         onBack: screen.shell.showHome()
     }
     Scroller {
+        readable: true
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
         width: parent.width

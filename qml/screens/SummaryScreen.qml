@@ -168,12 +168,17 @@ Item {
     }
     ListView {
         id: list
+        objectName: "results"
         anchors.top: totals.bottom
         anchors.bottom: footer.top
         width: parent.width
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         model: screen.sorted
+
+        Reader {
+            view: list
+        }
 
         delegate: Rectangle {
             id: line

@@ -189,6 +189,32 @@ Driver {
         tryVerify(function() { return screenName() === "EngineerScreen"; });
     }
 
+    function test_keysReachTheWholeSummary() {
+        start("summary");
+        var list = find("results"), focused = function() { return shell.Window.activeFocusItem; };
+        verify(list.contentHeight > 2 * list.height, "longer than the screen");
+        keyClick(Qt.Key_VolumeDown);
+        var first = focused(), last = list.count - 1, at = -1;
+        verify(first.view === list);
+        compare(list.indexAt(10, list.contentY + 1), 0);
+        // Page by page: nothing is left out, and nothing stands still before the end.
+        while (at < last) {
+            var bottom = list.indexAt(10, list.contentY + list.height - 1);
+            verify(bottom > at, "row " + bottom);
+            verify(list.indexAt(10, list.contentY + 1) <= at + 1);
+            at = bottom;
+            keyClick(Qt.Key_VolumeDown);
+            verify(at === last || focused() === first);
+        }
+        compare(focused().objectName, "code");
+        keyClick(Qt.Key_VolumeUp);
+        verify(focused() === first);
+        compare(list.indexAt(10, list.contentY + list.height - 1), last);
+        while (focused() === first)
+            keyClick(Qt.Key_VolumeUp);
+        compare(list.indexAt(10, list.contentY + 1), 0);
+    }
+
     function test_theSatelliteReceiverStartsWithTheSequence() {
         startSequence(["VerificationHallDetect", "VerificationGpsRadio", "VerificationBattery"]);
         verify(find("earlySatellites").item, "long before its page");
