@@ -126,6 +126,7 @@ QtObject {
     function stop(why) {
         if (!running)
             return;
+        tick();
         machineStartNow = startOfMachine();
         end = why === "time" && restarted ? "restart" : why;
         running = false;
@@ -142,10 +143,27 @@ QtObject {
     property real lastTick: 0
 
     function tick() {
-        var now = Date.now();
+        var now = Date.now(), passed = now - lastTick;
         // A clock that is set meanwhile neither prolongs the run nor ends it.
-        elapsed += Math.max(0, Math.min(60, Math.round((now - lastTick) / 1000)));
+        elapsed += Math.max(0, Math.min(60, Math.round(passed / 1000)));
         lastTick = now;
+        if (passed < -longestPause || passed > longestPause)
+            noteLeap(passed);
+    }
+
+    /*! Milliseconds that a test may keep the interface from ticking. */
+    readonly property int longestPause: 10000
+
+    /*!
+     * The clock has leapt. Where it was set, say by a network or a satellite, the start of the phone has moved along with it
+     * and nothing was restarted; after a sleep or a test that blocked it stands where it was.
+     */
+    function noteLeap(leap) {
+        var start = startOfMachine(), shift = start.getTime() - machineStartNow.getTime();
+        if (!(Math.abs(shift - leap) <= 60000))
+            return;
+        machineStart = new Date(machineStart.getTime() + shift);
+        machineStartNow = start;
     }
 
     function sample() {

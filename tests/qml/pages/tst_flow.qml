@@ -428,6 +428,29 @@ Driver {
         compare(runIn.code, FactoryUtils.Fail);
     }
 
+    function test_aClockThatIsSetIsNoRestart_data() {
+        return [
+            { tag: "set by a network", clock: 3 * 3600e3, start: 3 * 3600e3, end: "time" },
+            { tag: "set back", clock: -40 * 60e3, start: -40 * 60e3, end: "time" },
+            { tag: "set while a test blocked", clock: 3600e3 + 45e3, start: 3600e3, end: "time" },
+            { tag: "slept", clock: 3600e3, start: 0, end: "time" },
+            { tag: "restarted", clock: 0, start: 95e3, end: "restart" },
+            { tag: "restarted and set", clock: 3600e3, start: 3600e3 + 95e3, end: "restart" }
+        ];
+    }
+    function test_aClockThatIsSetIsNoRestart(data) {
+        var runIn = openRunIn(["Calibration"]), before = Phone.machineStart;
+        runIn.lengthSeconds = 3600 * 24;
+        mouseClick(find("runInStart"));
+        Phone.machineStart = new Date(before.getTime() + data.start);
+        // As if the clock had been so much behind at the last look.
+        runIn.lastTick -= data.clock;
+        runIn.tick();
+        runIn.stop("time");
+        compare(runIn.end, data.end);
+        verify(runIn.elapsed <= 120, runIn.elapsed);
+    }
+
     function test_aPageThatDoesNothingFailsTheRunIn() {
         var runIn = openRunIn(["AudioPlayMusicReceiver", "Calibration"]);
         Phone.soundServer = false;
