@@ -352,11 +352,11 @@ class Phone:
         return count
 
     def scan(self):
-        """What a scanner reads from the QR code on the screen."""
+        """What a scanner reads from the QR code on the screen, once it is drawn."""
         path = os.path.join(self.folder, 'code.png')
-        self.picture('', path)
-        result = subprocess.run(['zbarimg', '--quiet', '--raw', '-Sdisable', '-Sqrcode.enable', path],
-                                capture_output=True, text=True)
-        if result.returncode != 0:
-            raise AssertionError('no code on the screen: %s' % result.stderr)
-        return dict(line.split(' ', 1) for line in result.stdout.strip().split('\n'))
+
+        def text():
+            self.picture('', path)
+            return subprocess.run(['zbarimg', '--quiet', '--raw', '-Sdisable', '-Sqrcode.enable', path],
+                                  capture_output=True, text=True).stdout.strip()
+        return dict(line.split(' ', 1) for line in self.until(text, 'a code on the screen').split('\n'))
