@@ -2773,5 +2773,10 @@
         <source>Search key</source>
         <translation>Suchtaste</translation>
     </message>
+    <message id="kiv-list-separator">
+        <source>, </source>
+        <extracomment>Between the words of a list, with its blank</extracomment>
+        <translation>, </translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
+import "Lists.js" as Lists
 
 /*!
  * One live reading and what it must be. A value that is not there (undefined, null, NaN, infinite or an empty text) is "no
@@ -54,7 +55,7 @@ QtObject {
         if (accepted !== undefined)
             //: The value that a reading must have
             //% "must be %1"
-            return qsTrId("kiv-limits-accepted").arg(accepted.map(word).join(", "));
+            return qsTrId("kiv-limits-accepted").arg(Lists.enumerate(accepted.map(word)));
         if (!isNaN(minimum) && !isNaN(maximum))
             //: Limits of a reading: the lowest, the highest, the unit
             //% "%1 to %2 %3"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
 import Kiv 1.0
+import "Lists.js" as Lists
 
 /*! What plays into the sound server. */
 Card {
@@ -18,13 +19,14 @@ Card {
         Words {
             width: parent.width
             // The tool prints quotes around both names.
-            text: [model.applicationName, model.mediaName, model.volumeInfo,
-                   //% "paused"
-                   model.corked ? qsTrId("kiv-system-stream-paused") : "",
-                   //% "muted"
-                   model.muted ? qsTrId("kiv-system-stream-muted") : ""]
-                  .filter(function(part) { return part !== undefined && part !== ""; })
-                  .map(function(part) { return part.replace(/^"|"$/g, ""); }).join(", ")
+            text: Lists.enumerate(
+                      [model.applicationName, model.mediaName, model.volumeInfo,
+                       //% "paused"
+                       model.corked ? qsTrId("kiv-system-stream-paused") : "",
+                       //% "muted"
+                       model.muted ? qsTrId("kiv-system-stream-muted") : ""]
+                      .filter(function(part) { return part !== undefined && part !== ""; })
+                      .map(function(part) { return part.replace(/^"|"$/g, ""); }))
             font.pixelSize: Theme.small
         }
     }

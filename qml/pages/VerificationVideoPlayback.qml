@@ -3,6 +3,7 @@ import QtQuick 2.15
 import QtMultimedia 5.15
 import Kiv 1.0
 import "../controls"
+import "../controls/Lists.js" as Lists
 
 /*! A short video in which a random number of squares crosses the picture; in the codec that this phone can decode. */
 TestPage {
@@ -46,7 +47,7 @@ TestPage {
             challenge.stop();
             //: The names of the codecs that were tried
             //% "The system has no decoder for the test video (%1): install one, or test with a video of the phone's own."
-            missing = qsTrId("kiv-video-missing").arg(codecs.map(function(codec) { return codec.name; }).join(", "));
+            missing = qsTrId("kiv-video-missing").arg(Lists.enumerate(codecs.map(function(codec) { return codec.name; })));
         }
     }
 

@@ -2,6 +2,7 @@
 import QtQuick 2.15
 import Kiv 1.0
 import "../controls"
+import "../controls/Lists.js" as Lists
 import "../controls/VerdictStyle.js" as Style
 import "../flow"
 import "../flow/Report.js" as Report
@@ -112,7 +113,7 @@ Item {
         //: A test that failed, and the number of the loop
         //% "%1, loop %2"
         return qsTrId("kiv-run-in-failure").arg(qsTrId(failure.row.title))
-               .arg(failure.loops.join(", ") + (failure.times > failure.loops.length ? " …" : ""));
+               .arg(Lists.enumerate(failure.loops) + (failure.times > failure.loops.length ? " …" : ""));
     }
 
     /*! Whether heat is to end it, but nobody can tell how hot the battery is. */
@@ -243,9 +244,9 @@ Item {
                 kind: "near"
                 //: Names of tests
                 //% "These need an operator and stay not tested: %1"
-                text: qsTrId("kiv-run-in-attended").arg(screen.attended.map(function(row) {
+                text: qsTrId("kiv-run-in-attended").arg(Lists.enumerate(screen.attended.map(function(row) {
                     return qsTrId(row.title);
-                }).join(", "))
+                })))
             }
             PushButton {
                 width: parent.width

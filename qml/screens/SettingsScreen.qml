@@ -2,6 +2,7 @@
 import QtQuick 2.15
 import Kiv 1.0
 import "../controls"
+import "../controls/Lists.js" as Lists
 
 /*! What is known of this phone without testing it, and how the screens look. */
 Item {
@@ -32,7 +33,7 @@ Item {
         id: keys
         //% "Keys to test"
         name: qsTrId("kiv-settings-keys")
-        value: KivHwSettings.keys.map(keyWords.name).join(", ")
+        value: Lists.enumerate(KivHwSettings.keys.map(keyWords.name))
     }
     Measurement {
         id: led

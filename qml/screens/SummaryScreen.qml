@@ -3,6 +3,7 @@ import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import Kiv 1.0
 import "../controls"
+import "../controls/Lists.js" as Lists
 import "../controls/VerdictStyle.js" as Style
 
 /*! What came out, readable from two metres. It stays until the next phone. */
@@ -39,7 +40,7 @@ Item {
         if (entry.state === "absent")
             //: The features that the phone's configuration and a look at its hardware rule out
             //% "Not on this phone: %1"
-            return qsTrId("kiv-summary-absent").arg(entry.row.needs.join(", "));
+            return qsTrId("kiv-summary-absent").arg(Lists.enumerate(entry.row.needs));
         if (entry.state === "unwritten")
             return qsTrId("kiv-list-unwritten");
         var result = flow.verdict(entry.row.name);
@@ -66,7 +67,7 @@ Item {
         if (loops)
             //: Numbers of loops
             //% "Failed in the run-in, loop %1"
-            parts.push(qsTrId("kiv-summary-failed-loops").arg(loops.join(", ")));
+            parts.push(qsTrId("kiv-summary-failed-loops").arg(Lists.enumerate(loops)));
         else if (failures > 0 && result.code !== FactoryUtils.Fail)
             //% "Attempts that failed: %1"
             parts.push(qsTrId("kiv-summary-failed-attempts").arg(failures));
