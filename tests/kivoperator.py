@@ -94,6 +94,8 @@ Shell {
                 if (page[name] !== undefined)
                     seen[name] = page[name]
             })
+            // Once the sound server has answered, what it is asked then covers the screen.
+            seen.looking = page.missing === "" && (page.asked === "look" || page.prepared === false)
             seen.values = page.measurements.map(function(reading) { return reading.valueText })
             if (page.touched && page.columns)
                 seen.left = Array.from({ length: page.total }, function(_, i) { return i })
