@@ -84,7 +84,10 @@ TestPage {
     }
 
     //% "Move the phone a little and watch the picture. Tap it to see it large."
-    instructions: qsTrId("kiv-camera-instructions")
+    readonly property string advice: qsTrId("kiv-camera-instructions")
+
+    // The questions take its place: on a small screen they would not fit below both.
+    instructions: exercised && !unattended ? "" : advice
     evidence: false
     //% "Pass unlocks when you have answered the questions."
     evidenceHint: qsTrId("kiv-guided-hint")
@@ -125,7 +128,7 @@ TestPage {
         MouseArea {
             anchors.fill: parent
             Accessible.role: Accessible.Button
-            Accessible.name: page.instructions
+            Accessible.name: page.advice
             onClicked: page.fullScreen = false
         }
     }
@@ -133,7 +136,7 @@ TestPage {
     Item {
         id: place
         width: parent.width
-        height: Math.round(width * 0.66)
+        height: Math.round(Math.min(width * 0.66, Theme.height * 0.25))
         visible: page.isOpen && page.missing === ""
 
         Item {
@@ -161,8 +164,23 @@ TestPage {
             anchors.fill: parent
             enabled: page.seeing
             Accessible.role: Accessible.Button
-            Accessible.name: page.instructions
+            Accessible.name: page.advice
             onClicked: page.fullScreen = true
+
+            Rectangle {
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                width: 5 * Theme.unit
+                height: width
+                visible: page.seeing
+                color: "#90000000"
+
+                Icon {
+                    anchors.centerIn: parent
+                    name: "enlarge"
+                    color: "#ffffff"
+                }
+            }
         }
     }
     Challenge {

@@ -54,6 +54,27 @@ Driver {
         compare(Phone.log, ["camera on", "camera off"], "it is let go");
     }
 
+    /*! All of it, on a small screen, without a finger that scrolls. */
+    function isOnScreen(name) {
+        var button = find(name), top = button.mapToItem(shell, 0, 0).y, view = button.parent;
+        while (view.contentY === undefined)
+            view = view.parent;
+        var viewTop = view.mapToItem(shell, 0, 0).y;
+        return button.visible && top >= viewTop && top + button.height <= viewTop + view.height;
+    }
+
+    function test_theAnswersStandBesideThePicture() {
+        openTest("VerificationBackCamera");
+        ["motion", "light"].forEach(function(name) {
+            tryVerify(function() { return find(name).running; });
+            find(name).choices.forEach(function(choice) {
+                tryVerify(function() { return isOnScreen("answer-" + choice.value); }, 2000, choice.value);
+            });
+            solve(name);
+        });
+        tryVerify(function() { return isOnScreen("yes") && isOnScreen("no"); });
+    }
+
     function test_aWrongAnswerCanBeASlip() {
         openTest("VerificationFrontCamera");
         reply(find("motion"), false);
