@@ -407,7 +407,9 @@ Item {
             mouse.accepted = twice || (now < Scene.deafUntil && Scene.deafUntil - now <= 400);
             lastTime = now;
             lastPlace = Qt.point(mouse.x, mouse.y);
-            lastChanges = Scene.changes;
+            // However many more there are, until it holds still.
+            if (!twice)
+                lastChanges = Scene.changes;
         }
     }
 }

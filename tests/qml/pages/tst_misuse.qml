@@ -37,19 +37,23 @@ Driver {
         tryVerify(function() { return page && page.isOpen; });
     }
 
-    /*! Two taps as quick as they are where a finger trembles; the second meets what the first has brought. */
-    function tapTwice(x, y) {
+    /*! Taps as quick as they are where a finger trembles; all but the first meet what the first has brought. */
+    function tapQuickly(times, x, y) {
         var finger = touchEvent(shell);
-        for (var i = 0; i < 2; ++i) {
+        for (var i = 0; i < times; ++i) {
             finger.press(0, shell, x, y).commit();
             finger.release(0, shell, x, y).commit();
             wait(60);
         }
     }
 
-    function tapItemTwice(item) {
+    function tapItemQuickly(times, item) {
         var middle = item.mapToItem(shell, item.width / 2, item.height / 2);
-        tapTwice(middle.x, middle.y);
+        tapQuickly(times, middle.x, middle.y);
+    }
+
+    function howOften() {
+        return [{ tag: "twice", times: 2 }, { tag: "three times", times: 3 }, { tag: "five times", times: 5 }];
     }
 
     /*! A run-in of which nothing but the end is of interest here. */
@@ -348,37 +352,49 @@ Driver {
         compare(run.end, "operator");
     }
 
-    function test_aTremblingFingerFailsNoTest() {
+    function test_aTremblingFingerFailsNoTest_data() {
+        return howOften();
+    }
+    function test_aTremblingFingerFailsNoTest(data) {
         toList(TestTable.FactoryTests, ["VerificationHallDetect", "MacAddresses"]);
         var start = find("start");
         var fail = Qt.point(start.mapToItem(shell, 0, 0).x + 40, start.mapToItem(shell, 0, start.height / 2).y);
-        tapTwice(fail.x, fail.y);
+        tapQuickly(data.times, fail.x, fail.y);
         compare(screenName(), "TestScreen");
         verify(!kept("VerificationHallDetect"));
     }
 
-    function test_aTremblingFingerSkipsWithoutAReason() {
+    function test_aTremblingFingerSkipsWithoutAReason_data() {
+        return howOften();
+    }
+    function test_aTremblingFingerSkipsWithoutAReason(data) {
         startSequence(["VerificationHallDetect", "MacAddresses"]);
         frame.secondsLeft = 1;
         tryVerify(function() { return find("sheet").isOpen; }, 3000);
-        tapItemTwice(find("choice-skip"));
+        tapItemQuickly(data.times, find("choice-skip"));
         verify(find("sheet").isOpen);
         verify(!kept("VerificationHallDetect"), "it would be said that the phone is not meant to have it");
     }
 
-    function test_aTremblingFingerForgetsNoResults() {
+    function test_aTremblingFingerForgetsNoResults_data() {
+        return howOften();
+    }
+    function test_aTremblingFingerForgetsNoResults(data) {
         toList(TestTable.FactoryTests, ["MacAddresses"]);
         shell.flow.record("MacAddresses", { code: FactoryUtils.Pass, decided: "01", reason: "", seconds: 2 });
         shell.show("SummaryScreen");
         mouseClick(find("code"));
-        tapItemTwice(find("close"));
+        tapItemQuickly(data.times, find("close"));
         compare(screenName(), "SummaryScreen");
         compare(kept("MacAddresses").code, FactoryUtils.Pass);
     }
 
-    function test_aTremblingFingerAnswersOneQuestion() {
+    function test_aTremblingFingerAnswersOneQuestion_data() {
+        return howOften();
+    }
+    function test_aTremblingFingerAnswersOneQuestion(data) {
         openTest("VerificationFingerprint");
-        tapItemTwice(find("yes"));
+        tapItemQuickly(data.times, find("yes"));
         compare(page.verdict, "", "the second question is another one");
     }
 
