@@ -28,6 +28,12 @@ TestCase {
         }
     }
 
+    Timer {
+        id: egg
+        property bool over: false
+        onTriggered: over = true
+    }
+
     function init() {
         Phone.reset();
     }
@@ -40,6 +46,8 @@ TestCase {
     }
 
     function start(startPage) {
+        // Two of them would share the keys.
+        cleanup();
         shell = shellComponent.createObject(driver, { startPage: startPage });
         verify(shell);
     }
@@ -66,12 +74,35 @@ TestCase {
     property real lastClick: 0
     property int lastChanges: -1
 
+    /*! Lets this time pass, for the screens as well: after a wait() that a busy machine held up, what they had planned for
+     *  meanwhile may still be to come. */
+    function letPass(ms) {
+        egg.over = false;
+        egg.interval = ms;
+        egg.restart();
+        tryVerify(function() { return egg.over; }, 2 * ms + 5000);
+    }
+
+    /*! Does what must be done sooner than the screens' clocks run out, and again, with a new shell, where the machine was
+     *  too busy for that: the function returns false then, and has judged nothing. */
+    function inTime(attempt) {
+        for (var i = 0; i < 10; ++i) {
+            if (attempt() !== false)
+                return;
+            cleanup();
+            init();
+        }
+        skip("The machine is too busy for quick hands");
+    }
+
     /*! A hand that sees what it taps: not so soon after a change that it would be a finger that trembles. */
     function mouseClick(item, x, y) {
-        var due = lastClick + 320 - Date.now();
-        if (lastChanges !== Scene.changes && due > 0)
+        for (;;) {
+            var due = Math.max(lastChanges !== Scene.changes ? lastClick + 320 : 0, Scene.deafUntil) - Date.now();
+            if (due <= 0)
+                break;
             wait(due);
-        wait(Math.max(0, Scene.deafUntil - Date.now()));
+        }
         if (shell && item !== shell)
             shell.reveal(item);
         var middle = item.mapToItem(null, x === undefined ? item.width / 2 : x, y === undefined ? item.height / 2 : y);
@@ -91,7 +122,7 @@ TestCase {
         var button = find("pass");
         var middle = button.mapToItem(shell, button.width / 2, button.height / 2);
         mousePress(shell, middle.x, middle.y);
-        wait(700);
+        letPass(700);
         // The button is gone by now where it has acted.
         mouseRelease(shell, middle.x, middle.y);
     }

@@ -145,7 +145,7 @@ Driver {
         openTest("VerificationBattery");
         tryVerify(function() { return page.verdict === FactoryUtils.Fail; }, 10000);
         verify(page.reason.indexOf("Overheated") >= 0, page.reason);
-        wait(3500);
+        letPass(3500);
         verify(!kept("VerificationBattery"), "a failure waits for a look at it");
         holdPass();
         verify(!kept("VerificationBattery"), "he has to say why");
