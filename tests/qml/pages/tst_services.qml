@@ -113,14 +113,21 @@ Driver {
     }
 
     function test_coverServiceThatComesBackIsForgiven() {
-        Phone.coverService = "refuses";
-        openTest("VerificationZel");
-        tryVerify(function() { return page.trouble !== ""; });
-        Phone.coverService = "answers";
-        tryVerify(function() { return value("Smart-cover service") === "answers"; }, 10000);
-        verify(page.trouble === "");
-        wait(9000);
-        compare(page.verdict, "");
+        inTime(function() {
+            Phone.coverService = "refuses";
+            openTest("VerificationZel");
+            tryVerify(function() { return page.trouble !== ""; });
+            var lost = Date.now();
+            Phone.coverService = "answers";
+            tryVerify(function() { return value("Smart-cover service") === "answers"; }, 10000);
+            // Its chance lasts eight seconds.
+            if (Date.now() - lost > 7500)
+                return false;
+            verify(page.trouble === "");
+            letPass(9000);
+            compare(page.verdict, "");
+            return true;
+        });
     }
 
     function test_coverMissing() {
@@ -149,11 +156,12 @@ Driver {
     }
 
     function test_satelliteInUse() {
+        var begun = Date.now(), passed = function() { return (Date.now() - begun) / 1000; };
         openTest("VerificationGpsRadio");
         tryVerify(function() { return value("Satellites in view") === "3"; });
         compare(value("Satellites in use"), "0");
         compare(value("First satellite in use after"), "no reading");
-        verify(reading("First satellite in view after").value < 5);
+        verify(reading("First satellite in view after").value <= passed());
         wait(1200);
         compare(page.verdict, "");
         Phone.satellites = [Phone.satellite(2, 61, 112, 41, true), Phone.satellite(5, 35, 48, 33, false)];
@@ -161,7 +169,7 @@ Driver {
         compare(value("Satellites in view"), "2");
         compare(value("Satellites in use"), "1");
         var after = reading("First satellite in use after").value;
-        verify(after >= 1.2 && after < 10, after);
+        verify(after >= 1.2 && after <= passed(), after);
         wait(50);
         Phone.satellites = [Phone.satellite(2, 61, 112, 41, true)];
         compare(reading("First satellite in use after").value, after, "the first one counts");
@@ -205,7 +213,7 @@ Driver {
         tryVerify(function() { return page.reported > 0; });
         compare(page.trouble, "");
         page.reported -= 15500;
-        tryVerify(function() { return page.trouble.indexOf("has not reported for 1") >= 0; });
+        tryVerify(function() { return /has not reported for (1[5-9]|[2-9]\d) s/.test(page.trouble); });
         Phone.satellites = [];
         tryCompare(page, "trouble", "");
     }
@@ -390,7 +398,8 @@ Driver {
     function test_bluetoothThatFindsNobody() {
         openTest("VerificationBluetooth");
         tryVerify(function() { return page.search !== null && page.search.running; });
-        verify(!find("pass").enabled);
+        // Not by find(), which waits.
+        verify(!findChild(shell, "pass").enabled);
         tryVerify(function() { return shown("nobody"); });
         verify(find("pass").enabled, "there may be no device in reach");
         compare(page.verdict, "");
