@@ -48,6 +48,13 @@ void refresh(Processes *model)
     QVERIFY(QMetaObject::invokeMethod(model, "refresh", Qt::DirectConnection));
 }
 
+/*! Leaves the model without samples but those of the test, which may take longer than the time between two of its own.
+ */
+void stopPolling(const Processes &model)
+{
+    model.findChild<QTimer *>()->stop();
+}
+
 /*! One line of /proc/<pid>/stat as the kernel writes it. */
 QByteArray statLine(const QByteArray &name, quint64 userTicks, quint64 systemTicks)
 {
@@ -72,6 +79,14 @@ QVariant valueOf(const Processes &model, int pid, int role)
 QString nameOf(const Processes &model, int pid)
 {
     return valueOf(model, pid, NameRole).toString();
+}
+
+/*! The processor time of a process so far. */
+int ticksOf(int pid)
+{
+    const QByteArray stat = readFile(Proc + QString::number(pid) + said("/stat"));
+    const QByteArrayList fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
+    return fields.value(11).toInt() + fields.value(12).toInt();
 }
 
 int descriptors()
@@ -303,6 +318,7 @@ void tst_Processes::servesThreeRoles()
 void tst_Processes::signalsResetsAndCounts()
 {
     Processes model;
+    stopPolling(model);
     QStringList events;
     connect(&model, &Processes::modelAboutToBeReset, this, [&] { events << said("begin"); });
     connect(&model, &Processes::modelReset, this, [&] { events << said("end %1").arg(model.count() > 0); });
@@ -386,9 +402,24 @@ void tst_Processes::busiestComeFirst()
     });
     const int busy = parent.grandchild();
     QTRY_VERIFY(QFile::exists(Proc + QString::number(busy)));
-    Processes model;
-    QTest::qWait(500);
-    refresh(&model);
+    std::unique_ptr<Processes> sampled;
+    for (int attempt = 0; !sampled; ++attempt) {
+        QElapsedTimer clock;
+        clock.start();
+        auto model = std::make_unique<Processes>();
+        stopPolling(*model);
+        const qint64 first = clock.elapsed();
+        const int before = ticksOf(busy);
+        QTRY_VERIFY_WITH_TIMEOUT(ticksOf(busy) >= before + 30, 30000);
+        const qint64 between = clock.restart();
+        refresh(model.get());
+        // A sample is no moment: the time of the whole and of each process are read one after the other, and do not
+        // belong together where this process has to wait meanwhile.
+        if (first + clock.elapsed() < between / 4)
+            sampled = std::move(model);
+        QVERIFY2(attempt < 20, "the machine is too busy");
+    }
+    const Processes &model = *sampled;
     float last = std::numeric_limits<float>::infinity();
     for (int row = 0; row < model.rowCount(); ++row) {
         const float share = model.index(row).data(PercentCpuRole).toFloat();
@@ -405,6 +436,7 @@ void tst_Processes::busiestComeFirst()
 void tst_Processes::followsProcesses()
 {
     Processes model;
+    stopPolling(model);
     refresh(&model);
     auto child = std::make_unique<Child>();
     const int pid = child->pid();
@@ -607,6 +639,7 @@ void tst_Processes::staysAsItIsWithoutTotals()
     setTotals("cpu  100 200 300 400");
     fake(FakePid, "program", statLine("program", 30, 20));
     Processes model;
+    stopPolling(model);
     setTotals("cpu  1100 200 300 400");
     fake(FakePid, "program", statLine("program", 130, 20));
     refresh(&model);
