@@ -125,12 +125,15 @@ void tst_Udisksd::knowsCardAtConstruction()
 {
     QVERIFY(slot("insert"));
     QTRY_LONG(m_test->status(), SdCardTest::Unmounted);
-    QCOMPARE(SdCardTest().status(), SdCardTest::Unmounted);
+    {
+        const SdCardTest other;
+        QTRY_LONG(other.status(), SdCardTest::Unmounted);
+    }
 
     const QDBusPendingReply<QString> mount = call(QStringLiteral("Mount"));
     QTRY_LONG(m_test->status(), SdCardTest::Mounted);
     SdCardTest late;
-    QCOMPARE(late.status(), SdCardTest::Mounted);
+    QTRY_LONG(late.status(), SdCardTest::Mounted);
     QVERIFY(!late.mountFailed());
     QCOMPARE(late.sdCardIOTest(), 3);
     QTRY_VERIFY_WITH_TIMEOUT(mount.isFinished(), Patience);
