@@ -350,13 +350,17 @@ void tst_EvdevSim::waitsOnlyInBlockingMode()
     QCOMPARE(errno, EAGAIN);
 
     const UniqueFd blocking = open(device, O_RDONLY);
-    std::thread later([&device] {
+    std::atomic<bool> hasRead{false};
+    std::thread later([&device, &hasRead] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
         device.send({{EV_SW, SW_LID, 1}});
+        while (!hasRead)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
         device.failRead(EIO);
     });
     const QVector<Event> events = readEvents(blocking.get());
+    hasRead = true;
     const QVector<Event> failed = readEvents(blocking.get());
     const int error = errno;
     later.join();

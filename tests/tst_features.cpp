@@ -606,7 +606,7 @@ void tst_Features::survivesFailingOfono()
     else if (failure != QLatin1String("unknown"))
         ofono.hold(GetModems);
     Probe probe;
-    QTRY_COMPARE(ofono.calls().size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(ofono.calls().size(), 1, 30000);
     if (failure == QLatin1String("death"))
         ofono.die();
     else if (failure == QLatin1String("bus"))
