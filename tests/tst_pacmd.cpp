@@ -312,7 +312,8 @@ void tst_PaCmd::keepsWhatAHangingToolHasPrinted()
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(PaCmd().primarySinkName(), QStringLiteral("partial"));
-    QVERIFY2(timer.elapsed() >= 30000 && timer.elapsed() < 33000, qPrintable(QString::number(timer.elapsed())));
+    // It is waited for once, however busy the machine is.
+    QVERIFY2(timer.elapsed() >= 30000 && timer.elapsed() < 60000, qPrintable(QString::number(timer.elapsed())));
     // Nothing of the pipeline is left behind.
     const QByteArray pid = recorded(QStringLiteral("calls")).trimmed();
     QTRY_VERIFY(!QFile::exists(QStringLiteral("/proc/") + QString::fromLatin1(pid)));

@@ -167,7 +167,7 @@ void tst_RunChild::killsWhatNeverStopsPrinting()
     const ChildResult result = shell("echo $$; exec cat /dev/zero", std::chrono::milliseconds(1000));
     busyPhone = false;
     QVERIFY(timer.elapsed() >= 1000);
-    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 30000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(!result.finished);
     QVERIFY(!result.succeeded());
     QVERIFY(result.output.size() > 1 && result.output.size() <= MaximumChildOutput);

@@ -381,7 +381,7 @@ void tst_SensorCalibration::isDisabledWhenTheHelperHangs()
     clock.start();
     QVERIFY(!calibration.calibrate());
     QVERIFY(clock.elapsed() >= 30000);
-    QVERIFY(clock.elapsed() < 35000);
+    QVERIFY(clock.elapsed() < 60000); // and not waited for twice
     QCOMPARE(log.all(),
              QStringList({said("\"helper binary ") + GyroscopePath + said("did not finish\""), GyroscopeDisabled}));
     QCOMPARE(events.take(), QStringList({said("not enabled"), said("representation=")}));

@@ -123,7 +123,8 @@ void tst_WithoutBus::audioRoute()
         QVERIFY(!route.wiredInputConnected());
     }
     QCOMPARE(log.all().count(), 1);
-    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    // Long before the end of a call that nobody answers.
+    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_WithoutBus::destroyedAtOnce()
