@@ -124,6 +124,7 @@ class tst_PulseAudio : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void metaObject();
     void readsAListing();
@@ -150,6 +151,11 @@ private Q_SLOTS:
 private:
     std::unique_ptr<NoPolls> m_noPolls;
 };
+
+void tst_PulseAudio::initTestCase()
+{
+    QVERIFY2(!QFile::exists(Tool), "this machine's own tool would be overwritten");
+}
 
 void tst_PulseAudio::init()
 {
