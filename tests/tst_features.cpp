@@ -55,8 +55,8 @@ const char NoInterface[] = "No ofono interface registered";
 const char NoAnswer[] = "Failed to GetModems";
 const char NoModems[] = "No modems found";
 
-// How much later than its limit something may end on a busy machine.
-constexpr int Slack = 10000;
+// How much later than its limit something may end on a busy machine; not so much that it could be waited for twice.
+constexpr int Slack = 25000;
 
 const QStringList BaseFeatures = {
     QStringLiteral("Battery"),
