@@ -29,7 +29,7 @@ TestCase {
     }
 
     Timer {
-        id: egg
+        id: eggTimer
         property bool over: false
         onTriggered: over = true
     }
@@ -77,10 +77,10 @@ TestCase {
     /*! Lets this time pass, for the screens as well: after a wait() that a busy machine held up, what they had planned for
      *  meanwhile may still be to come. */
     function letPass(ms) {
-        egg.over = false;
-        egg.interval = ms;
-        egg.restart();
-        tryVerify(function() { return egg.over; }, 2 * ms + 5000);
+        eggTimer.over = false;
+        eggTimer.interval = ms;
+        eggTimer.restart();
+        tryVerify(function() { return eggTimer.over; }, 2 * ms + 5000);
     }
 
     /*! Does what must be done sooner than the screens' clocks run out, and again, with a new shell, where the machine was
