@@ -32,6 +32,8 @@ ENDED = 'kiv-ended: '
 DONE = 'shell-done: '
 # How long something must stand still on the screen before a finger goes for it.
 STILL = 0.35
+# How long a page that was drawn along may take to follow, before it is drawn once more.
+MOVED = 3
 SERIAL = itertools.count()
 
 PASSED, FAILED = '01', '02'
@@ -114,16 +116,22 @@ Shell {
         }
         return JSON.stringify(seen)
     }
+    function tell() {
+        var text = shell.describe()
+        if (text !== shell.said)
+            console.warn("state: " + text)
+        shell.said = text
+    }
+    // What may be over before the next look is told at once.
+    readonly property var shownPage: screen && screen.page ? screen.page : null
+    readonly property string moment: shownPage ? [screen.started, shownPage.isOpen, shownPage.verdict,
+                                                  shownPage.phase].join() : ""
+    onMomentChanged: Qt.callLater(tell)
     Timer {
         interval: 60
         running: true
         repeat: true
-        onTriggered: {
-            var text = shell.describe()
-            if (text !== shell.said)
-                console.warn("state: " + text)
-            shell.said = text
-        }
+        onTriggered: shell.tell()
     }
 }
 '''
@@ -139,7 +147,8 @@ class Phone:
         self.lines = []
         self.news = threading.Condition()
         self.state = None
-        self.state_time = 0
+        # All states, in their order: an operator who was held up looks through what he has missed.
+        self.history = []
         self.picture_count = 0
         self.ended = False
         try:
@@ -191,7 +200,7 @@ class Phone:
                 place = line.find(STATE)
                 if place >= 0:
                     self.state = json.loads(line[place + len(STATE):])
-                    self.state_time = time.monotonic()
+                    self.history.append(self.state)
                 else:
                     self.lines.append(line)
                 self.news.notify_all()
@@ -264,15 +273,24 @@ class Phone:
             condition(state.get(name)) if callable(condition) else state.get(name) == condition
             for name, condition in conditions.items()), conditions, timeout)
 
+    def been(self, start, condition, what):
+        """Waits until the condition holds of one of the states from that place on, though it be past; returns the first
+        such place in the history."""
+        return self.until(lambda: [at for at in range(start, len(self.history)) if condition(self.history[at])],
+                          what)[0]
+
     def find_button(self, name, unless=lambda state: False):
         """Where the button is, once it has come to rest and can be pressed; None if the other holds before that."""
         def place(state):
             button = None if unless(state) else state['buttons'].get(name)
             return button if button and button['enabled'] else None
+        last = time.monotonic() + TIMEOUT
         while True:
             button = place(self.see(lambda state: unless(state) or place(state), 'the button ' + name))
             if not button:
                 return None
+            if time.monotonic() > last:
+                raise AssertionError('the button %s does not come to rest: %s' % (name, button))
             if button['hidden']:
                 self.scroll(button)
                 continue
@@ -294,7 +312,11 @@ class Phone:
             self.control('finger', 'put', 0, x, middle - far // 2 + far * min(step, 8) // 8)
             time.sleep(0.02)  # the pace of a hand; a throw would slide on
         self.control('finger', 'lift')
-        self.until(lambda: self.state is not before, 'the page to move')
+        # A phone that was busy has seen where the finger came down and where it was lifted, and may take that for a tap.
+        end = time.monotonic() + MOVED
+        with self.news:
+            while self.state is before and time.monotonic() < end:
+                self.news.wait(max(0.001, end - time.monotonic()))
 
     def tap(self, name):
         self.control('finger', 'tap', *self.find_button(name))

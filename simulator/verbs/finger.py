@@ -66,11 +66,12 @@ def lift(phone, *which):
         device.send(changes)
 
 
-def tap(phone, x, y):
+def tap(phone, x, y, times='1'):
     if 0 in fingers.down:
         raise Failure('finger 0 is on the panel already')
-    put(phone, '0', x, y)
-    lift(phone, '0')
+    for _ in range(number(times, 'number of taps', 1, 10)):
+        put(phone, '0', x, y)
+        lift(phone, '0')
 
 
 def show(phone):
@@ -83,5 +84,5 @@ COMMANDS = [
     Command('finger put', 'FINGER X Y', 'put a finger down, or move it; fingers count from 0, X and Y are of the panel',
             put),
     Command('finger lift', '[FINGER...]', 'lift it, or all', lift),
-    Command('finger tap', 'X Y', 'put finger 0 down and lift it', tap),
+    Command('finger tap', 'X Y [TIMES]', 'put finger 0 down and lift it, as often as that without a pause', tap),
 ]
