@@ -38,6 +38,14 @@ def write(path, content='', mode=None):
     return path
 
 
+def change(path, content):
+    """Writes a file that a running program reads: it finds the old content or the new one, never half of it."""
+    os.makedirs(os.path.dirname(path), exist_ok=True)
+    with open(path + '~', 'wb') as file:
+        file.write(content.encode())
+    os.rename(path + '~', path)
+
+
 def read(path):
     with open(path, 'rb') as file:
         return file.read()
@@ -179,10 +187,13 @@ class SystemBus:
   </policy>
 </busconfig>
 ''' % self.SOCKET)
-        self.process = subprocess.Popen(['dbus-daemon', '--nofork', '--nopidfile', '--config-file=' + configuration],
-                                        stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                        stderr=subprocess.DEVNULL)
-        wait_until(lambda: os.path.exists(self.SOCKET))
+        self.process = subprocess.Popen(['dbus-daemon', '--nofork', '--nopidfile', '--config-file=' + configuration,
+                                         '--print-address'], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                        stderr=subprocess.DEVNULL, text=True)
+        # The socket is there a moment before anybody listens at it.
+        with self.process.stdout as output:
+            if not output.readline():
+                raise AssertionError('no system bus')
 
     def stop(self):
         if self.process.poll() is None:
