@@ -125,7 +125,7 @@ Shell {
     // What may be over before the next look is told at once.
     readonly property var shownPage: screen && screen.page ? screen.page : null
     readonly property string moment: shownPage ? [screen.started, shownPage.isOpen, shownPage.verdict,
-                                                  shownPage.phase].join() : ""
+                                                  shownPage.phase, shownPage.picture].join() : ""
     onMomentChanged: Qt.callLater(tell)
     Timer {
         interval: 60
