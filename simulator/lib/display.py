@@ -13,7 +13,7 @@ import tempfile
 import time
 
 PR_SET_PDEATHSIG = 1
-START_TIMEOUT_S = 20
+START_TIMEOUT_S = 60
 FIRST_VNC_PORT = 5900
 
 libc = ctypes.CDLL(None)

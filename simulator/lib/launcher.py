@@ -46,7 +46,7 @@ DRAW_TIMEOUT_S = 60
 # The picture is taken when the screen has not changed over so many looks.
 STILL_LOOKS = 4
 LOOK_EVERY_S = 0.15
-STILL_TIMEOUT_S = 15
+STILL_LOOKS_AT_MOST = 60
 END_TIMEOUT_S = 20
 
 
@@ -259,12 +259,13 @@ def still_picture(display, folder):
     """Pictures the screen until it stays the same; a screen that never does is pictured as it is."""
     path = os.path.join(folder, 'screen.png')
     last, still = None, 0
-    end = time.monotonic() + STILL_TIMEOUT_S
-    while still < STILL_LOOKS and time.monotonic() < end:
+    for _ in range(STILL_LOOKS_AT_MOST):
         display.screenshot(path)
         now = pixels(path)
         still = still + 1 if now == last else 0
         last = now
+        if still == STILL_LOOKS:
+            break
         time.sleep(LOOK_EVERY_S)
     if still < STILL_LOOKS:
         print('run: the screen keeps changing; this is how it looked last', file=sys.stderr)

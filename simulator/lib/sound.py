@@ -31,13 +31,13 @@ from phonefolder import SIMULATOR, BadPhone, read_ini
 
 FOLDER = '/run/kiv-phone/sound'
 PORTS = FOLDER + '/ports'
-START_TIMEOUT_S = 20
+START_TIMEOUT_S = 60
 RATE = 48000
 FRAME = 4
 # What an ear takes in: the first part is what was on its way before.
 LISTEN_SKIP_S = 0.1
 LISTEN_S = 0.3
-LISTEN_TIMEOUT_S = 5
+LISTEN_TIMEOUT_S = 30
 AUDIBLE = 500
 
 
@@ -171,8 +171,10 @@ class Sound:
         before = self.stream_count()
         self.streams[name] = self.popen(['sh', '-c', 'exec pacat --playback --client-name="$0" --stream-name="$0" '
                                          '</dev/zero', name])
-        end = time.monotonic() + 5
-        while self.stream_count() <= before and time.monotonic() < end:
+        end = time.monotonic() + START_TIMEOUT_S
+        while self.stream_count() <= before:
+            if time.monotonic() > end:
+                raise Failure('%s does not play' % name)
             time.sleep(0.02)
 
     def stop_stream(self, name):

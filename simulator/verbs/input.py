@@ -31,7 +31,7 @@ KEY_SYMBOLS = {
     'KEY_VOLUMEDOWN': 'XF86AudioLowerVolume',
     'KEY_VOLUMEUP': 'XF86AudioRaiseVolume',
 }
-XDOTOOL_TIMEOUT_S = 5
+XDOTOOL_TIMEOUT_S = 30
 
 
 # The jack

@@ -16,13 +16,11 @@ def remove():
 
 
 def waiting_readers():
-    """A descriptor to those who read while the controller is busy; None if nobody does."""
+    """A descriptor to those who read while the controller is busy; None if it is not. Opened for both ways, so that it
+    also reaches those who come only now."""
     if not os.path.exists(SELF_TEST) or not stat.S_ISFIFO(os.stat(SELF_TEST).st_mode):
         return None
-    try:
-        return os.open(SELF_TEST, os.O_WRONLY | os.O_NONBLOCK)
-    except OSError:
-        return None
+    return os.open(SELF_TEST, os.O_RDWR | os.O_NONBLOCK)
 
 
 def self_test(phone, result):
