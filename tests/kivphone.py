@@ -32,6 +32,8 @@ Shell {
     id: shell
     startPage: "home"
     property string wanted
+    property string task
+    property string pressing
     property string said
     property real last: Date.now()
     property real stall: 0
@@ -39,21 +41,18 @@ Shell {
         var request = new XMLHttpRequest()
         request.onreadystatechange = function() {
             var text = request.responseText.trim()
-            if (request.readyState !== XMLHttpRequest.DONE || text === "" || text === shell.wanted)
+            if (request.readyState !== XMLHttpRequest.DONE || text === "" || text === shell.task)
                 return
-            shell.wanted = text
-            shell.stall = 0
+            shell.task = text
             var words = text.split(" ")
+            shell.pressing = words[1] === "press" ? words[2] : ""
+            if (shell.pressing !== "")
+                return
+            shell.begun()
             if (words[1] === "open") {
                 shell.startPage = words[2]
                 shell.flow.clear()
                 shell.begin()
-            } else if (words[1] === "press") {
-                var button = shell.find(shell, words[2])
-                if (button && button.enabled)
-                    button.clicked()
-                else
-                    console.warn("nothing to press: " + words[2])
             } else if (words[1] === "leave") {
                 shell.leaveTest()
             } else if (words[1] === "quit") {
@@ -62,6 +61,19 @@ Shell {
         }
         request.open("GET", "file://%s")
         request.send()
+    }
+    function begun() {
+        wanted = task
+        stall = 0
+    }
+    // Not before the button is there.
+    function press() {
+        var button = pressing === "" || busy ? null : find(shell, pressing)
+        if (!button || !button.enabled)
+            return
+        pressing = ""
+        begun()
+        button.clicked()
     }
     // Nobody presses what he does not see.
     function find(item, name) {
@@ -89,36 +101,64 @@ Shell {
         }
         return ""
     }
+    function tell() {
+        var state = { wanted: shell.wanted, open: !!page && page.isOpen, missing: page ? page.missing : "",
+                      verdict: page ? page.verdict : "", reason: page ? page.reason : "",
+                      left: page ? page.remaining : 0, due: page && page.phase !== undefined ? page.phase : "",
+                      evidence: !!page && page.evidence, asked: shell.asked(page), stall: shell.stall,
+                      passable: !!page && shell.screen.passUnlocked === true,
+                      values: page ? page.measurements.map(function(m) { return m.valueText }) : [] }
+        var more = ["prepared", "played", "playing", "found", "heard", "trouble", "refused",
+                    "hasRested"]
+        more.forEach(function(name) {
+            if (page && page[name] !== undefined)
+                state[name] = page[name]
+        })
+        var text = JSON.stringify(state)
+        if (text !== said)
+            console.warn("state: " + text)
+        said = text
+    }
+    // What may be over, or keep the interface from telling more, before the next look is told at once.
+    readonly property var page: screen && screen.page ? screen.page : null
+    readonly property string moment: page ? [page.isOpen, page.verdict, page.phase, page.trouble].join() : ""
+    onMomentChanged: Qt.callLater(tell)
     Timer {
         interval: 100
         running: true
         repeat: true
         onTriggered: {
             shell.look()
+            shell.press()
             // How long the interface stood still at most, in whole seconds.
             shell.stall = Math.max(shell.stall, Math.floor((Date.now() - shell.last) / 1000))
             shell.last = Date.now()
-            var page = shell.screen && shell.screen.page ? shell.screen.page : null
-            var state = { wanted: shell.wanted, open: !!page && page.isOpen, missing: page ? page.missing : "",
-                          verdict: page ? page.verdict : "", reason: page ? page.reason : "",
-                          left: page ? page.remaining : 0, due: page && page.phase !== undefined ? page.phase : "",
-                          evidence: !!page && page.evidence, asked: shell.asked(page), stall: shell.stall,
-                          passable: !!page && shell.screen.passUnlocked === true,
-                          values: page ? page.measurements.map(function(m) { return m.valueText }) : [] }
-            var more = ["prepared", "played", "playing", "found", "heard", "trouble", "refused",
-                        "hasRested"]
-            more.forEach(function(name) {
-                if (page && page[name] !== undefined)
-                    state[name] = page[name]
-            })
-            var text = JSON.stringify(state)
-            if (text !== said)
-                console.warn("state: " + text)
-            said = text
+            shell.tell()
         }
     }
 }
 ''' % WANTED
+
+
+def children(pid):
+    found = []
+    for name in filter(str.isdecimal, os.listdir('/proc')):
+        try:
+            with open('/proc/%s/stat' % name, encoding='utf-8', errors='replace') as file:
+                text = file.read()
+        except OSError:
+            continue
+        if int(text.rpartition(')')[2].split()[1]) == pid:
+            found.append((int(name), text.partition('(')[2].rpartition(')')[0]))
+    return found
+
+
+def descendant(pid, name):
+    for child, called in children(pid):
+        found = child if called == name else descendant(child, name)
+        if found:
+            return found
+    return None
 
 
 class Phone:
@@ -174,7 +214,19 @@ class Phone:
                 raise AssertionError('phonectl %s: %s' % (' '.join(words), result.stderr))
             time.sleep(0.1)
 
+    def program(self):
+        return descendant(self.process.pid, 'kiv')
+
+    def delay(self):
+        """For how many seconds the program's interface has had something to do and no processor to do it, so far."""
+        try:
+            with open('/proc/%d/schedstat' % self.program(), encoding='utf-8') as file:
+                return int(file.read().split()[1]) / 1e9
+        except (OSError, TypeError, IndexError):
+            return 0
+
     def do(self, *words):
+        self.delay_before = self.delay()
         self.counter += 1
         self.wanted = ' '.join((str(self.counter), *words))
         self.current = None
@@ -188,12 +240,22 @@ class Phone:
         """Presses the button of this name, wherever it is."""
         self.do('press', button)
 
+    def holds(self, conditions):
+        return self.current and all(condition(self.current.get(name)) if callable(condition)
+                                    else self.current.get(name) == condition for name, condition in conditions.items())
+
+    def been(self, **conditions):
+        """Whether all the conditions hold in one of the states that were not looked at yet."""
+        try:
+            return self.wait(timeout=0, **conditions) is not None
+        except AssertionError:
+            return False
+
     def wait(self, timeout=TIMEOUT, **conditions):
         """Waits until the wanted page is in a state in which all the conditions hold."""
         end = time.monotonic() + timeout
         while True:
-            if self.current and all(condition(self.current.get(name)) if callable(condition)
-                                    else self.current.get(name) == condition for name, condition in conditions.items()):
+            if self.holds(conditions):
                 return self.current
             try:
                 state = self.states.get(timeout=max(0, end - time.monotonic()))
