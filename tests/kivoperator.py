@@ -312,7 +312,7 @@ class Phone:
             self.control('finger', 'put', 0, x, middle - far // 2 + far * min(step, 8) // 8)
             time.sleep(0.02)  # the pace of a hand; a throw would slide on
         self.control('finger', 'lift')
-        # A phone that was busy has seen where the finger came down and where it was lifted, and may take that for a tap.
+        # A busy phone has seen where the finger came down and where it was lifted, and may have taken that for a tap.
         end = time.monotonic() + MOVED
         with self.news:
             while self.state is before and time.monotonic() < end:
