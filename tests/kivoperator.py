@@ -2,7 +2,6 @@
 """An operator at a simulated phone: fingers on its touch panel and its other parts in his hands by way of phonectl,
 eyes on its screen. The installed program runs unchanged; its first page also says what is to be seen where."""
 
-import collections
 import itertools
 import json
 import os
@@ -352,10 +351,6 @@ class Phone:
         pixels = subprocess.run(['convert', path, '-filter', 'box', '-resize', '%dx%d!' % (width, height), '-depth',
                                  '8', 'rgb:-'], capture_output=True, check=True).stdout
         return [pixels[at:at + 3] for at in range(0, len(pixels), 3)]
-
-    def colours(self):
-        """The screen's colours, and how often each is there."""
-        return collections.Counter(self.pixels(SIZE[0] // 2, SIZE[1] // 2))
 
     def count_spots(self):
         """How many spots of one colour are on the screen, on ground of another."""
