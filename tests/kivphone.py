@@ -236,9 +236,10 @@ class Phone:
         self.do('open', page)
         return self.wait(open=True)
 
-    def press(self, button):
-        """Presses the button of this name, wherever it is."""
+    def press(self, button, timeout=TIMEOUT):
+        """Presses the button of this name, wherever it is, once it is there."""
         self.do('press', button)
+        self.wait(timeout)
 
     def holds(self, conditions):
         return self.current and all(condition(self.current.get(name)) if callable(condition)
