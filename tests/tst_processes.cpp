@@ -514,7 +514,8 @@ void tst_Processes::namesRealProcesses()
     const QByteArray program = QFile::encodeName(directory.path()) + '/' + file;
     QVERIFY(QFile::copy(said("/usr/bin/sleep"), QFile::decodeName(program)));
     const Child child([&](int) { ::execl(program.constData(), argument.constData(), "1000", nullptr); });
-    QTRY_VERIFY(QFile::exists(Proc + QString::number(child.pid())));
+    // The kernel closes the descriptors and gives the process its new name before it gives it the new command line.
+    QTRY_VERIFY(!readFile(Proc + QString::number(child.pid()) + said("/cmdline")).isEmpty());
     Processes model;
     refresh(&model);
     QVERIFY(rowOf(model, child.pid()) >= 0);
