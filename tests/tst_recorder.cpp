@@ -185,9 +185,13 @@ void tst_Recorder::init()
 void tst_Recorder::startServer()
 {
     QVERIFY(m_server.start());
-    QTRY_VERIFY_WITH_TIMEOUT(!QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty()
-                                 && QAudioDeviceInfo::defaultInputDevice().deviceName() == QLatin1String("phone.mics"),
-                             30000);
+    const bool found = QTest::qWaitFor(
+        [] {
+            return !QAudioDeviceInfo::availableDevices(QAudio::AudioInput).isEmpty()
+                && QAudioDeviceInfo::defaultInputDevice().deviceName() == QLatin1String("phone.mics");
+        },
+        30000);
+    QVERIFY2(found, m_server.report().constData());
 }
 
 void tst_Recorder::metaObject()
