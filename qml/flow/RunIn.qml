@@ -147,12 +147,12 @@ QtObject {
         // A clock that is set meanwhile neither prolongs the run nor ends it.
         elapsed += Math.max(0, Math.min(60, Math.round(passed / 1000)));
         lastTick = now;
-        if (passed < -longestPause || passed > longestPause)
+        if (Math.abs(passed) > leastLeap)
             noteLeap(passed);
     }
 
-    /*! Milliseconds that a test may keep the interface from ticking. */
-    readonly property int longestPause: 10000
+    /*! Milliseconds between two ticks from which on the clock may have been set. */
+    readonly property int leastLeap: 10000
 
     /*!
      * The clock has leapt. Where it was set, say by a network or a satellite, the start of the phone has moved along with it
@@ -160,6 +160,7 @@ QtObject {
      */
     function noteLeap(leap) {
         var start = startOfMachine(), shift = start.getTime() - machineStartNow.getTime();
+        // Not quite by as much: a test may have kept the interface from ticking meanwhile. NaN is no shift at all.
         if (!(Math.abs(shift - leap) <= 60000))
             return;
         machineStart = new Date(machineStart.getTime() + shift);
