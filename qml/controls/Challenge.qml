@@ -14,6 +14,7 @@ import QtQuick 2.15
 Column {
     id: challenge
 
+    /*! May be left out where the page asks by itself. */
     property string question
     /*! What can be answered: [{value, text, glyph}]; the glyph may be left out. */
     property var choices: []
@@ -131,6 +132,7 @@ Column {
     }
     Words {
         width: parent.width
+        visible: text !== ""
         text: challenge.question
         font.pixelSize: Theme.lead
         font.weight: Font.DemiBold

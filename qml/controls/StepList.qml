@@ -6,6 +6,8 @@ Column {
     id: list
 
     property var steps: []
+    /*! Only the due one is shown, where answers need the room. */
+    property bool brief: false
     readonly property int due: {
         for (var i = 0; i < steps.length; ++i) {
             if (!steps[i].done)
@@ -22,6 +24,7 @@ Column {
         Item {
             id: step
             readonly property bool due: index === list.due
+            visible: !list.brief || due
             width: list.width
             height: Math.max(disc.height, words.height) + Theme.unit / 2
             Accessible.role: Accessible.StaticText

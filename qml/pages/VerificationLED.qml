@@ -25,6 +25,8 @@ TestPage {
     property bool unpluggedSeen: false
     /*! What the light shows while the phone charges: one of the choices. */
     property var seen: null
+    /*! The operator is asked for it. */
+    readonly property bool asking: isOpen && plugged && seen === null
 
     /*! Charging cannot be switched, or the light did not follow it. */
     property bool byHand: false
@@ -174,6 +176,8 @@ TestPage {
 
     StepList {
         width: parent.width
+        visible: !page.asking
+        brief: challenge.running
         steps: [
             //% "Plug a charger into the USB socket"
             { text: qsTrId("kiv-charging-step-plug"), done: page.seen !== null || page.plugged },
@@ -206,7 +210,7 @@ TestPage {
     Column {
         width: parent.width
         spacing: Theme.gap
-        visible: page.isOpen && page.plugged && page.seen === null
+        visible: page.asking
 
         Words {
             width: parent.width
@@ -239,7 +243,6 @@ TestPage {
         id: challenge
         width: parent.width
         columns: 2
-        question: qsTrId("kiv-led-question")
         choices: page.mixed
         values: page.seen ? [page.seen.value, "none"] : []
         rounds: 3

@@ -71,6 +71,15 @@ TestCase {
         return found;
     }
 
+    /*! All of it, on a small screen, without a finger that scrolls. */
+    function isOnScreen(name) {
+        var button = find(name), top = button.mapToItem(shell, 0, 0).y, view = button.parent;
+        while (view.contentY === undefined)
+            view = view.parent;
+        var viewTop = view.mapToItem(shell, 0, 0).y;
+        return button.visible && top >= viewTop && top + button.height <= viewTop + view.height;
+    }
+
     property real lastClick: 0
     property int lastChanges: -1
 

@@ -54,15 +54,6 @@ Driver {
         compare(Phone.log, ["camera on", "camera off"], "it is let go");
     }
 
-    /*! All of it, on a small screen, without a finger that scrolls. */
-    function isOnScreen(name) {
-        var button = find(name), top = button.mapToItem(shell, 0, 0).y, view = button.parent;
-        while (view.contentY === undefined)
-            view = view.parent;
-        var viewTop = view.mapToItem(shell, 0, 0).y;
-        return button.visible && top >= viewTop && top + button.height <= viewTop + view.height;
-    }
-
     function test_theAnswersStandBesideThePicture() {
         openTest("VerificationBackCamera");
         ["motion", "light"].forEach(function(name) {

@@ -420,6 +420,9 @@ Driver {
         openTest("VerificationLED");
         compare(shown("light-red").length, 0);
         Phone.setBattery({ status: "Charging" });
+        page.choices.forEach(function(choice) {
+            tryVerify(function() { return isOnScreen("light-" + choice.value); }, 2000, choice.value);
+        });
         press("light-orange");
         compare(page.verdict, "");
         compare(value("Light while charging"), "Orange or yellow");
