@@ -97,8 +97,9 @@ void tst_Udisksd::init()
 void tst_Udisksd::cleanup()
 {
     // A card that is pulled while it is mounted, and comes back before the daemon has cleaned up, is still mounted.
-    QProcess::execute(QStringLiteral("umount"),
-                      {QStringLiteral("--all-targets"), QStringLiteral("--quiet"), QStringLiteral("--lazy"), CardDevice});
+    QProcess::execute(
+        QStringLiteral("umount"),
+        {QStringLiteral("--all-targets"), QStringLiteral("--quiet"), QStringLiteral("--lazy"), CardDevice});
     if (m_test && m_test->status() != SdCardTest::NoCard) {
         slot("remove");
         QTRY_LONG(m_test->status(), SdCardTest::NoCard);
