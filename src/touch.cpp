@@ -35,7 +35,7 @@ int pollRetrying(pollfd *watched, nfds_t count, int timeoutMs)
     return ready;
 }
 
-/*! Like read(), but waits also where the descriptor does not, and returns 0 as soon as the other one has an event. */
+/*! Like read(), but returns 0 as soon as the other descriptor has an event, while there is nothing to be read. */
 ssize_t readUnless(pollfd other, int fd, char *buffer, size_t size)
 {
     ssize_t got;
@@ -44,7 +44,7 @@ ssize_t readUnless(pollfd other, int fd, char *buffer, size_t size)
         if (pollRetrying(watched, std::size(watched), Forever) < 0 || watched[1].revents != 0)
             return 0;
         got = ::read(fd, buffer, size);
-    } while (got < 0 && (errno == EINTR || errno == EAGAIN));
+    } while (got < 0 && errno == EINTR);
     return got;
 }
 
@@ -66,10 +66,12 @@ bool sendAll(int channel, const char *data, size_t size)
  */
 void sendFirstLine(const char *path, int channel)
 {
-    // Non-blocking for those files that poll() can wait for; a driver's file is always said to be readable.
+    // A pipe in the file's place must not hold up the opening. A driver has to serve one who waits, though: the others
+    // it may turn away, and poll() says that its file can be read all the same.
     const UniqueFd file(::open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status;
-    if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || S_ISDIR(status.st_mode))
+    if (!file.isOpen() || ::fstat(file.get(), &status) != 0 || S_ISDIR(status.st_mode)
+        || ::fcntl(file.get(), F_SETFL, 0) != 0)
         return;
     bool more = sendAll(channel, &OpenedMark, sizeof(OpenedMark));
     char buffer[ChunkSize];

@@ -31,6 +31,9 @@ constexpr int AtOnceMs = 1000; // a destructor that takes longer would be felt, 
 // A driver that is busy with its controller: reads of this file do not return as long as it is set.
 std::atomic<ino_t> busyFile{0};
 std::atomic<int> busyReads{0};
+// A driver that turns away those who do not want to wait, or everybody.
+std::atomic<ino_t> aloofFile{0};
+std::atomic<bool> servesWhoWaits{true};
 
 int entries(const char *directory)
 {
@@ -110,6 +113,11 @@ extern "C" ssize_t read(int fd, void *buffer, size_t size)
         while (busyFile != 0)
             QThread::usleep(200);
     }
+    if (aloofFile != 0 && ::fstat(fd, &status) == 0 && status.st_ino == aloofFile
+        && (!servesWhoWaits || (::fcntl(fd, F_GETFL) & O_NONBLOCK) != 0)) {
+        errno = EAGAIN;
+        return -1;
+    }
     return ::syscall(SYS_read, fd, buffer, size);
 }
 
@@ -127,6 +135,8 @@ private Q_SLOTS:
     void failsWithoutChipAndSelfTest();
     void failsWhereTheFileIsADirectory();
     void failsWhereNothingCanBeRead();
+    void waitsForADriverThatAsksForIt_data();
+    void waitsForADriverThatAsksForIt();
     void failsWithoutFreeDescriptors();
     void endsAnEndlessLine();
     void neverTakesAPassBack();
@@ -147,6 +157,7 @@ void tst_Touch::cleanup()
 {
     busyFile = 0;
     busyReads = 0;
+    aloofFile = 0;
     QDir(SelfTestDirectory).removeRecursively();
     QDir(QFileInfo(ChipFile).path()).removeRecursively();
 }
@@ -259,6 +270,27 @@ void tst_Touch::failsWhereNothingCanBeRead()
     QVERIFY(!touch.result());
     QCOMPARE(log.all(),
              QStringList({said("Read file"), said("Result =  \"\""), said("resultChanged sent, value:  false")}));
+}
+
+void tst_Touch::waitsForADriverThatAsksForIt_data()
+{
+    QTest::addColumn<bool>("serves");
+    QTest::newRow("serves who waits") << true;
+    QTest::newRow("serves nobody") << false;
+}
+
+void tst_Touch::waitsForADriverThatAsksForIt()
+{
+    QFETCH(bool, serves);
+    writeFile(SelfTestFile, "0\n");
+    struct stat status;
+    QCOMPARE(::stat(QFile::encodeName(SelfTestFile).constData(), &status), 0);
+    servesWhoWaits = serves;
+    aloofFile = status.st_ino;
+    const MessageLog log;
+    Touch touch;
+    runTest(&touch);
+    QCOMPARE(touch.result(), serves);
 }
 
 void tst_Touch::failsWithoutFreeDescriptors()
