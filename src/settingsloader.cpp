@@ -6,6 +6,8 @@
 #include <QDebug>
 #include <QFile>
 
+#include <climits>
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -18,9 +20,8 @@ const char *const SettingsDirectories[] = {
 };
 const QString SettingsSuffix = QStringLiteral(".ini");
 
-// QSettings writes what was set in it to its file at the latest when it is destroyed, and shares its content with every
-// other object on the same file. No file can be made below a device, not by root either, and each name is used once.
-const QString UnwritableName = QStringLiteral("/dev/null/kiv-settings-%1");
+// No file can be made below a device, not by root either.
+const QLatin1String Device("/dev/null");
 
 // QSettings keeps about ten of the files that it has parsed and takes them for unchanged while size and time stamp are,
 // which misses a file replaced within one tick of the file system's clock or installed with its old time stamp. It
@@ -68,6 +69,20 @@ UniqueFd uncommonDescriptor(DIR *directory)
     return UniqueFd(::fcntl(::dirfd(directory), F_DUPFD_CLOEXEC, FirstDescriptor + counter));
 }
 
+/*!
+ * A name of its own for every object, at which no file can be made: QSettings writes what was set in it to its file at
+ * the latest when it is destroyed, and shares its content with every other object on the same file.
+ */
+QString unwritableName()
+{
+    static quint64 counter = 0;
+    struct stat status = {};
+    const bool isThere = ::stat(Device.data(), &status) == 0 && !S_ISDIR(status.st_mode);
+    // Nor where a part of the path is too long, which takes longer to find out.
+    const QString folder = isThere ? QString(Device) : QLatin1Char('/') + QString(NAME_MAX + 1, QLatin1Char('x'));
+    return folder + QStringLiteral("/kiv-settings-%1").arg(++counter);
+}
+
 void copyValues(const QString &path, QSettings *target)
 {
     const QSettings source(path, QSettings::IniFormat);
@@ -100,8 +115,7 @@ std::unique_ptr<QSettings> loadSettings(const QString &filter)
                 qDebug() << "Append settings from" << name;
             } else {
                 qDebug() << "Load settings from" << name;
-                static quint64 counter = 0;
-                settings = std::make_unique<QSettings>(UnwritableName.arg(++counter), QSettings::IniFormat);
+                settings = std::make_unique<QSettings>(unwritableName(), QSettings::IniFormat);
             }
             copyValues(folder + QLatin1Char('/') + name, settings.get());
         }

@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <fcntl.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -85,6 +86,7 @@ private Q_SLOTS:
 
     void neverWrites_data();
     void neverWrites();
+    void makesNoFolders();
     void sharesNothing();
     void readsFilesAsTheyAre();
     void seesFilesThatComeAndGo();
@@ -341,10 +343,23 @@ void tst_SettingsLoader::neverWrites()
     QCOMPARE(traces(), before);
     QCOMPARE(log.debugs().size(), files);
     QCOMPARE(log.all().size(), files);
+}
 
-    struct stat status = {};
-    QCOMPARE(::stat("/dev/null", &status), 0);
-    QVERIFY(S_ISCHR(status.st_mode));
+/*! Also where a phone has less than usual. */
+void tst_SettingsLoader::makesNoFolders()
+{
+    const auto everywhere = [] {
+        const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        return QDir::root().entryList(all) + QDir(QStringLiteral("/dev")).entryList(all);
+    };
+    if (::mount("dev", "/dev", "tmpfs", MS_NOSUID, nullptr) != 0)
+        QSKIP("A file system cannot be mounted here");
+    const auto unmount = qScopeGuard([] { ::umount2("/dev", MNT_DETACH); });
+    writeFile(Installed + QStringLiteral("hw-settings.ini"), "[A]\nb=1\n");
+    const QStringList before = everywhere();
+    const MessageLog log;
+    loadSettings(Filter)->sync();
+    QCOMPARE(everywhere(), before);
 }
 
 void tst_SettingsLoader::sharesNothing()
