@@ -164,8 +164,11 @@ QDBusMessage callAndWait(const QDBusConnection &bus, const QDBusMessage &message
     return call.reply();
 }
 
+/*! Whether nobody got the call: an error of the bus or of the connection to it, not of a service. */
 bool isAbsence(const QDBusMessage &reply)
 {
+    if (reply.service().startsWith(QLatin1Char(':')))
+        return false;
     const QDBusError::ErrorType error = QDBusError(reply).type();
     return error == QDBusError::Disconnected || error == QDBusError::ServiceUnknown
         || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");

@@ -590,7 +590,8 @@ void tst_Features::asksForModems()
 void tst_Features::survivesFailingOfono_data()
 {
     QTest::addColumn<QString>("failure");
-    QTest::newRow("error") << QStringLiteral("error");
+    QTest::newRow("error") << QStringLiteral("org.ofono.Error.Failed");
+    QTest::newRow("error that the bus has, too") << QStringLiteral("org.freedesktop.DBus.Error.ServiceUnknown");
     QTest::newRow("unknown method") << QStringLiteral("unknown");
     QTest::newRow("death before the answer") << QStringLiteral("death");
     QTest::newRow("end of the bus before the answer") << QStringLiteral("bus");
@@ -601,8 +602,8 @@ void tst_Features::survivesFailingOfono()
     QFETCH(QString, failure);
     PrivateBus bus(PrivateBus::System);
     FakeOfono ofono(bus);
-    if (failure == QLatin1String("error"))
-        ofono.answerWithError(GetModems, QStringLiteral("org.ofono.Error.Failed"), QStringLiteral("Failed"));
+    if (failure.startsWith(QLatin1String("org.")))
+        ofono.answerWithError(GetModems, failure, QStringLiteral("Failed"));
     else if (failure != QLatin1String("unknown"))
         ofono.hold(GetModems);
     Probe probe;
