@@ -48,7 +48,8 @@ QString loadDisclaimer()
         qWarning() << "No disclaimer file found.";
         return QString();
     }
-    return QString::fromUtf8(file.readAll());
+    const QByteArray content = file.readAll();
+    return QString::fromUtf8(content.constData(), content.size()); // without the size, only up to the first NUL
 }
 }
 
