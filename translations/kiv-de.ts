@@ -387,9 +387,9 @@
         <translation>Hinweis noch einmal lesen</translation>
     </message>
     <message id="kiv-summary-overruled">
-        <source>Overruled by the operator: %2. Measured: %1</source>
+        <source>Overruled by the operator: %2. Verdict before: %1</source>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
-        <translation>Vom Prüfer überstimmt: %2. Gemessen: %1</translation>
+        <translation>Vom Prüfer überstimmt: %2. Urteil vorher: %1</translation>
     </message>
     <message id="kiv-summary-attempts">
         <source>Attempts: %1</source>
@@ -919,8 +919,8 @@
         <translation>%1 von %2</translation>
     </message>
     <message id="kiv-multi-touch-patience">
-        <source>Ends %1 s after the last touch</source>
-        <translation>Endet %1 s nach der letzten Berührung</translation>
+        <source>Ends in %1 s without a touch</source>
+        <translation>Endet in %1 s ohne Berührung</translation>
     </message>
     <message id="kiv-multi-touch-seen">
         <source>Fingers at once</source>
@@ -1031,8 +1031,8 @@
         <translation>„Bestanden“ ist gesperrt, bis jedes Feld berührt wurde.</translation>
     </message>
     <message id="kiv-touch-patience">
-        <source>Ends %1 s after the last new cell</source>
-        <translation>Endet %1 s nach dem letzten neuen Feld</translation>
+        <source>Ends in %1 s without a new cell</source>
+        <translation>Endet in %1 s ohne neues Feld</translation>
     </message>
     <message id="kiv-touch-reacted">
         <source>Cells that reacted</source>
@@ -2176,8 +2176,8 @@
         <translation>Suchen Sie jedes Bild nach Punkten, Linien und Flecken ab. Tippen Sie für das nächste. Am Ende zählen Sie die Punkte.</translation>
     </message>
     <message id="kiv-lcd-hint">
-        <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
-        <translation>„Bestanden“ ist gesperrt, bis Sie die Bilder gesehen und die Punkte gezählt haben.</translation>
+        <source>Pass unlocks when you have seen the pictures, counted the dots and answered the questions.</source>
+        <translation>„Bestanden“ ist gesperrt, bis Sie die Bilder gesehen, die Punkte gezählt und die Fragen beantwortet haben.</translation>
     </message>
     <message id="kiv-lcd-next">
         <source>Next picture</source>
@@ -2512,13 +2512,13 @@
         <translation>Versuche: %1, Zeit: %2</translation>
     </message>
     <message id="kiv-overrule-title">
-        <source>Why against the measurement?</source>
-        <translation>Warum gegen die Messung?</translation>
+        <source>Why against this verdict?</source>
+        <translation>Warum gegen dieses Urteil?</translation>
     </message>
     <message id="kiv-overrule-text">
-        <source>Measured: %1. The summary will show that you decided otherwise.</source>
-        <extracomment>The verdict that the phone has measured</extracomment>
-        <translation>Gemessen: %1. Die Übersicht wird zeigen, dass Sie anders entschieden haben.</translation>
+        <source>Verdict so far: %1. The summary will show that you decided otherwise.</source>
+        <extracomment>The page&apos;s own verdict, from what it measured or what the operator answered</extracomment>
+        <translation>Urteil bisher: %1. Die Übersicht wird zeigen, dass Sie anders entschieden haben.</translation>
     </message>
     <message id="kiv-overrule-equipment">
         <source>A tool or an accessory was at fault</source>
@@ -2537,8 +2537,8 @@
         <translation>Ein Vorgesetzter hat so entschieden</translation>
     </message>
     <message id="kiv-overrule-cancel">
-        <source>Keep the measured verdict</source>
-        <translation>Beim gemessenen Urteil bleiben</translation>
+        <source>Keep this verdict</source>
+        <translation>Bei diesem Urteil bleiben</translation>
     </message>
     <message id="kiv-skip-title">
         <source>Why is this test skipped?</source>
@@ -2777,6 +2777,11 @@
         <source>, </source>
         <extracomment>Between the words of a list, with its blank</extracomment>
         <translation>, </translation>
+    </message>
+    <message id="kiv-charging-round">
+        <source>Round %1 of %2</source>
+        <extracomment>How many times something has been tried, of how many</extracomment>
+        <translation>Durchgang %1 von %2</translation>
     </message>
 </context>
 </TS>

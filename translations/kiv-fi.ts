@@ -805,8 +805,8 @@
         <translation>%1/%2</translation>
     </message>
     <message id="kiv-multi-touch-patience">
-        <source>Ends %1 s after the last touch</source>
-        <translation>Päättyy %1 s viimeisestä kosketuksesta</translation>
+        <source>Ends in %1 s without a touch</source>
+        <translation>Päättyy %1 s kuluttua ilman kosketusta</translation>
     </message>
     <message id="kiv-multi-touch-seen">
         <source>Fingers at once</source>
@@ -925,8 +925,8 @@
         <translation>Hyväksyminen avautuu, kun jokainen ruutu on pyyhitty.</translation>
     </message>
     <message id="kiv-touch-patience">
-        <source>Ends %1 s after the last new cell</source>
-        <translation>Päättyy %1 s viimeisestä uudesta ruudusta</translation>
+        <source>Ends in %1 s without a new cell</source>
+        <translation>Päättyy %1 s kuluttua ilman uutta ruutua</translation>
     </message>
     <message id="kiv-touch-reacted">
         <source>Cells that reacted</source>
@@ -1106,9 +1106,9 @@
         <translation>Lue ilmoitus uudelleen</translation>
     </message>
     <message id="kiv-summary-overruled">
-        <source>Overruled by the operator: %2. Measured: %1</source>
+        <source>Overruled by the operator: %2. Verdict before: %1</source>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
-        <translation>Testaaja päätti toisin: %2. Mitattu: %1</translation>
+        <translation>Testaaja päätti toisin: %2. Tulos sitä ennen: %1</translation>
     </message>
     <message id="kiv-summary-attempts">
         <source>Attempts: %1</source>
@@ -2176,8 +2176,8 @@
         <translation>Etsi jokaisesta kuvasta pisteitä, viivoja ja läiskiä. Seuraavaan pääset napauttamalla. Laske lopuksi pisteet.</translation>
     </message>
     <message id="kiv-lcd-hint">
-        <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
-        <translation>Hyväksyminen avautuu, kun olet nähnyt kuvat ja laskenut pisteet.</translation>
+        <source>Pass unlocks when you have seen the pictures, counted the dots and answered the questions.</source>
+        <translation>Hyväksyminen avautuu, kun olet nähnyt kuvat, laskenut pisteet ja vastannut kysymyksiin.</translation>
     </message>
     <message id="kiv-lcd-next">
         <source>Next picture</source>
@@ -2512,13 +2512,13 @@
         <translation>Yrityksiä: %1, aika: %2</translation>
     </message>
     <message id="kiv-overrule-title">
-        <source>Why against the measurement?</source>
-        <translation>Miksi mittausta vastaan?</translation>
+        <source>Why against this verdict?</source>
+        <translation>Miksi tätä tulosta vastaan?</translation>
     </message>
     <message id="kiv-overrule-text">
-        <source>Measured: %1. The summary will show that you decided otherwise.</source>
-        <extracomment>The verdict that the phone has measured</extracomment>
-        <translation>Mitattu: %1. Yhteenveto näyttää, että päätit toisin.</translation>
+        <source>Verdict so far: %1. The summary will show that you decided otherwise.</source>
+        <extracomment>The page&apos;s own verdict, from what it measured or what the operator answered</extracomment>
+        <translation>Tulos tähän asti: %1. Yhteenveto näyttää, että päätit toisin.</translation>
     </message>
     <message id="kiv-overrule-equipment">
         <source>A tool or an accessory was at fault</source>
@@ -2537,8 +2537,8 @@
         <translation>Esimies päätti niin</translation>
     </message>
     <message id="kiv-overrule-cancel">
-        <source>Keep the measured verdict</source>
-        <translation>Pidä mitattu tulos</translation>
+        <source>Keep this verdict</source>
+        <translation>Pidä tämä tulos</translation>
     </message>
     <message id="kiv-skip-title">
         <source>Why is this test skipped?</source>
@@ -2777,6 +2777,11 @@
         <source>, </source>
         <extracomment>Between the words of a list, with its blank</extracomment>
         <translation>, </translation>
+    </message>
+    <message id="kiv-charging-round">
+        <source>Round %1 of %2</source>
+        <extracomment>How many times something has been tried, of how many</extracomment>
+        <translation>Kierros %1/%2</translation>
     </message>
 </context>
 </TS>

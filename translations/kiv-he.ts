@@ -387,9 +387,9 @@
         <translation>קריאה חוזרת של ההודעה</translation>
     </message>
     <message id="kiv-summary-overruled">
-        <source>Overruled by the operator: %2. Measured: %1</source>
+        <source>Overruled by the operator: %2. Verdict before: %1</source>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
-        <translation>המפעיל הכריע אחרת: ⁨%2⁩. נמדד: ⁨%1⁩</translation>
+        <translation>המפעיל הכריע אחרת: ⁨%2⁩. התוצאה לפני כן: ⁨%1⁩</translation>
     </message>
     <message id="kiv-summary-attempts">
         <source>Attempts: %1</source>
@@ -919,8 +919,8 @@
         <translation>%1 מתוך %2</translation>
     </message>
     <message id="kiv-multi-touch-patience">
-        <source>Ends %1 s after the last touch</source>
-        <translation>מסתיים %1 שנ׳ אחרי המגע האחרון</translation>
+        <source>Ends in %1 s without a touch</source>
+        <translation>מסתיים בעוד %1 שנ׳ ללא מגע</translation>
     </message>
     <message id="kiv-multi-touch-seen">
         <source>Fingers at once</source>
@@ -1031,8 +1031,8 @@
         <translation>&quot;עבר&quot; ייפתח לאחר מעבר על כל התאים.</translation>
     </message>
     <message id="kiv-touch-patience">
-        <source>Ends %1 s after the last new cell</source>
-        <translation>מסתיים %1 שנ׳ אחרי התא החדש האחרון</translation>
+        <source>Ends in %1 s without a new cell</source>
+        <translation>מסתיים בעוד %1 שנ׳ ללא תא חדש</translation>
     </message>
     <message id="kiv-touch-reacted">
         <source>Cells that reacted</source>
@@ -2176,8 +2176,8 @@
         <translation>חפשו בכל תמונה נקודות, קווים וכתמים. הקישו כדי לעבור לבאה. בסוף ספרו את הנקודות.</translation>
     </message>
     <message id="kiv-lcd-hint">
-        <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
-        <translation>&quot;עבר&quot; ייפתח לאחר שתראו את התמונות ותספרו את הנקודות.</translation>
+        <source>Pass unlocks when you have seen the pictures, counted the dots and answered the questions.</source>
+        <translation>&quot;עבר&quot; ייפתח לאחר שתראו את התמונות, תספרו את הנקודות ותענו על השאלות.</translation>
     </message>
     <message id="kiv-lcd-next">
         <source>Next picture</source>
@@ -2512,13 +2512,13 @@
         <translation>ניסיונות: %1, זמן: %2</translation>
     </message>
     <message id="kiv-overrule-title">
-        <source>Why against the measurement?</source>
-        <translation>מדוע בניגוד למדידה?</translation>
+        <source>Why against this verdict?</source>
+        <translation>מדוע בניגוד לתוצאה הזו?</translation>
     </message>
     <message id="kiv-overrule-text">
-        <source>Measured: %1. The summary will show that you decided otherwise.</source>
-        <extracomment>The verdict that the phone has measured</extracomment>
-        <translation>נמדד: ⁨%1⁩. בסיכום יופיע שהחלטתם אחרת.</translation>
+        <source>Verdict so far: %1. The summary will show that you decided otherwise.</source>
+        <extracomment>The page&apos;s own verdict, from what it measured or what the operator answered</extracomment>
+        <translation>התוצאה עד כה: ⁨%1⁩. בסיכום יופיע שהחלטתם אחרת.</translation>
     </message>
     <message id="kiv-overrule-equipment">
         <source>A tool or an accessory was at fault</source>
@@ -2537,8 +2537,8 @@
         <translation>מנהל החליט כך</translation>
     </message>
     <message id="kiv-overrule-cancel">
-        <source>Keep the measured verdict</source>
-        <translation>השארת התוצאה שנמדדה</translation>
+        <source>Keep this verdict</source>
+        <translation>השארת התוצאה הזו</translation>
     </message>
     <message id="kiv-skip-title">
         <source>Why is this test skipped?</source>
@@ -2777,6 +2777,11 @@
         <source>, </source>
         <extracomment>Between the words of a list, with its blank</extracomment>
         <translation>, </translation>
+    </message>
+    <message id="kiv-charging-round">
+        <source>Round %1 of %2</source>
+        <extracomment>How many times something has been tried, of how many</extracomment>
+        <translation>סבב %1 מתוך %2</translation>
     </message>
 </context>
 </TS>

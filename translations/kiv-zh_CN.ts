@@ -387,9 +387,9 @@
         <translation>再次阅读须知</translation>
     </message>
     <message id="kiv-summary-overruled">
-        <source>Overruled by the operator: %2. Measured: %1</source>
+        <source>Overruled by the operator: %2. Verdict before: %1</source>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
-        <translation>操作员推翻了测量结论：%2。测量结果：%1</translation>
+        <translation>操作员推翻了结论：%2。之前的结论：%1</translation>
     </message>
     <message id="kiv-summary-attempts">
         <source>Attempts: %1</source>
@@ -919,8 +919,8 @@
         <translation>%1 / %2</translation>
     </message>
     <message id="kiv-multi-touch-patience">
-        <source>Ends %1 s after the last touch</source>
-        <translation>最后一次触摸 %1 秒后结束</translation>
+        <source>Ends in %1 s without a touch</source>
+        <translation>%1 秒内无触摸则结束</translation>
     </message>
     <message id="kiv-multi-touch-seen">
         <source>Fingers at once</source>
@@ -1031,8 +1031,8 @@
         <translation>擦过所有格子后才能判为合格。</translation>
     </message>
     <message id="kiv-touch-patience">
-        <source>Ends %1 s after the last new cell</source>
-        <translation>最后一个新格子 %1 秒后结束</translation>
+        <source>Ends in %1 s without a new cell</source>
+        <translation>%1 秒内没有新格子则结束</translation>
     </message>
     <message id="kiv-touch-reacted">
         <source>Cells that reacted</source>
@@ -2176,8 +2176,8 @@
         <translation>查看每幅画面中是否有坏点、线条和斑块。点按显示下一幅。最后数出圆点。</translation>
     </message>
     <message id="kiv-lcd-hint">
-        <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
-        <translation>看过画面并数出圆点后才能判为合格。</translation>
+        <source>Pass unlocks when you have seen the pictures, counted the dots and answered the questions.</source>
+        <translation>看过画面、数出圆点并回答问题后才能判为合格。</translation>
     </message>
     <message id="kiv-lcd-next">
         <source>Next picture</source>
@@ -2512,13 +2512,13 @@
         <translation>尝试次数：%1，时间：%2</translation>
     </message>
     <message id="kiv-overrule-title">
-        <source>Why against the measurement?</source>
-        <translation>为何与测量结论相反？</translation>
+        <source>Why against this verdict?</source>
+        <translation>为何与此结论相反？</translation>
     </message>
     <message id="kiv-overrule-text">
-        <source>Measured: %1. The summary will show that you decided otherwise.</source>
-        <extracomment>The verdict that the phone has measured</extracomment>
-        <translation>测量结论：%1。汇总中将显示您作出了不同的判定。</translation>
+        <source>Verdict so far: %1. The summary will show that you decided otherwise.</source>
+        <extracomment>The page&apos;s own verdict, from what it measured or what the operator answered</extracomment>
+        <translation>目前的结论：%1。汇总中将显示您作出了不同的判定。</translation>
     </message>
     <message id="kiv-overrule-equipment">
         <source>A tool or an accessory was at fault</source>
@@ -2537,8 +2537,8 @@
         <translation>由主管决定</translation>
     </message>
     <message id="kiv-overrule-cancel">
-        <source>Keep the measured verdict</source>
-        <translation>保留测量结论</translation>
+        <source>Keep this verdict</source>
+        <translation>保留此结论</translation>
     </message>
     <message id="kiv-skip-title">
         <source>Why is this test skipped?</source>
@@ -2777,6 +2777,11 @@
         <source>, </source>
         <extracomment>Between the words of a list, with its blank</extracomment>
         <translation>、</translation>
+    </message>
+    <message id="kiv-charging-round">
+        <source>Round %1 of %2</source>
+        <extracomment>How many times something has been tried, of how many</extracomment>
+        <translation>第 %1 轮，共 %2 轮</translation>
     </message>
 </context>
 </TS>

@@ -387,7 +387,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-summary-overruled">
-        <source>Overruled by the operator: %2. Measured: %1</source>
+        <source>Overruled by the operator: %2. Verdict before: %1</source>
         <extracomment>The operator&apos;s verdict differs from the page&apos;s own, which follows, with his reason</extracomment>
         <translation type="unfinished"></translation>
     </message>
@@ -919,7 +919,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-multi-touch-patience">
-        <source>Ends %1 s after the last touch</source>
+        <source>Ends in %1 s without a touch</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-multi-touch-seen">
@@ -1031,7 +1031,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-touch-patience">
-        <source>Ends %1 s after the last new cell</source>
+        <source>Ends in %1 s without a new cell</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-touch-reacted">
@@ -2176,7 +2176,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-lcd-hint">
-        <source>Pass unlocks when you have seen the pictures and counted the dots.</source>
+        <source>Pass unlocks when you have seen the pictures, counted the dots and answered the questions.</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-lcd-next">
@@ -2512,12 +2512,12 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-overrule-title">
-        <source>Why against the measurement?</source>
+        <source>Why against this verdict?</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-overrule-text">
-        <source>Measured: %1. The summary will show that you decided otherwise.</source>
-        <extracomment>The verdict that the phone has measured</extracomment>
+        <source>Verdict so far: %1. The summary will show that you decided otherwise.</source>
+        <extracomment>The page&apos;s own verdict, from what it measured or what the operator answered</extracomment>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-overrule-equipment">
@@ -2537,7 +2537,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-overrule-cancel">
-        <source>Keep the measured verdict</source>
+        <source>Keep this verdict</source>
         <translation type="unfinished"></translation>
     </message>
     <message id="kiv-skip-title">
@@ -2776,6 +2776,11 @@
     <message id="kiv-list-separator">
         <source>, </source>
         <extracomment>Between the words of a list, with its blank</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="kiv-charging-round">
+        <source>Round %1 of %2</source>
+        <extracomment>How many times something has been tried, of how many</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -45,6 +45,9 @@ TestPage {
     }
 
     function follow() {
+        // A verdict is about the card that was tested, whatever is put into the slot then.
+        if (verdict === "")
+            state.value = stateWord(card.status);
         if (!isOpen)
             return;
         if (card.status === SdCardTest.Mounted && !tested) {
@@ -67,7 +70,7 @@ TestPage {
             judge(code === 3 ? FactoryUtils.Pass : FactoryUtils.Fail, outcomeWord(code));
     }
 
-    instructions: card.status === SdCardTest.NoCard
+    instructions: verdict !== "" ? "" : card.status === SdCardTest.NoCard
                   //% "Put a memory card into the slot."
                   ? qsTrId("kiv-sd-card-instructions-insert")
                   //% "The card is tested as soon as it is mounted."
@@ -86,7 +89,7 @@ TestPage {
 
     Notice {
         width: parent.width
-        visible: page.isOpen && card.status === SdCardTest.NoCard
+        visible: page.isOpen && card.status === SdCardTest.NoCard && page.verdict === ""
         kind: "near"
         //% "There is no card in the slot."
         text: qsTrId("kiv-sd-card-missing")
@@ -103,7 +106,6 @@ TestPage {
         id: state
         //% "Card"
         name: qsTrId("kiv-sd-card-state")
-        value: page.stateWord(card.status)
     }
     Measurement {
         id: outcome

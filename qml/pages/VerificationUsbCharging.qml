@@ -3,7 +3,10 @@ import QtQuick 2.15
 import Kiv 1.0
 import "../controls"
 
-/*! Switches the charger off and on again and watches whether the battery notices. */
+/*!
+ * Switches the charger off and on again and watches whether the battery notices. Twice, for the battery notices as well
+ * when the cable is pulled and put back, and nothing here tells the two apart.
+ */
 TestPage {
     id: page
 
@@ -16,6 +19,8 @@ TestPage {
     /*! "plug", then "on", "off", "again", and "done". */
     property string phase: "plug"
     property int ticks: 0
+    readonly property int rounds: 2
+    property int round: 1
     property bool chargerOff: false
     readonly property bool charging: status.value === "Charging" || status.value === "Full"
 
@@ -70,7 +75,7 @@ TestPage {
             if (charging && (!stops.value || currentOff.missing || currentOn.missing
                              || !change(currentOn.value, currentOff.value)
                              || change(current.value, currentOff.value)))
-                finish(true);
+                goOn();
             else if (ticks >= reactionSeconds)
                 finish(false);
             break;
@@ -92,6 +97,15 @@ TestPage {
             page.putBack();
             page.enter("again");
         });
+    }
+
+    function goOn() {
+        if (!stops.value || round === rounds) {
+            finish(true);
+            return;
+        }
+        ++round;
+        enter("on");
     }
 
     function finish(resumed) {
@@ -145,6 +159,14 @@ TestPage {
         ]
     }
 
+    Words {
+        width: parent.width
+        visible: ["on", "off", "again"].indexOf(page.phase) >= 0
+        //: How many times something has been tried, of how many
+        //% "Round %1 of %2"
+        text: qsTrId("kiv-charging-round").arg(page.round).arg(page.rounds)
+        color: Theme.muted
+    }
     Measurement {
         id: status
         name: qsTrId("kiv-battery-status")

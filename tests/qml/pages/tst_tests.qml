@@ -85,10 +85,25 @@ Driver {
         Phone.setBattery({ status: "Discharging", currentNow: -250000 });
         tryVerify(function() { return Phone.log.indexOf("enableCharger") >= 0; }, 10000);
         Phone.setBattery({ status: "Charging", currentNow: 880000 });
+        tryVerify(function() { return Phone.log.length === 3; }, 10000);
+        compare(page.verdict, "");
+        Phone.setBattery({ status: "Discharging", currentNow: -250000 });
+        tryVerify(function() { return Phone.log.length === 4; }, 10000);
+        Phone.setBattery({ status: "Charging", currentNow: 900000 });
         verdictIs(FactoryUtils.Pass);
-        compare(value("Current, charger on"), "900 mA");
+        compare(value("Current, charger on"), "880 mA");
         compare(value("Current, charger off"), "-250 mA");
-        compare(Phone.log, ["disableCharger", "enableCharger"]);
+        compare(Phone.log, ["disableCharger", "enableCharger", "disableCharger", "enableCharger"]);
+    }
+
+    /*! A switch without effect, and a cable that is pulled and put back meanwhile. */
+    function test_aPulledCableIsNoSwitch() {
+        openTest("VerificationUsbCharging");
+        tryVerify(function() { return page.phase === "off"; }, 10000);
+        Phone.setBattery({ status: "Discharging", currentNow: -250000 });
+        tryVerify(function() { return page.phase === "again"; }, 10000);
+        Phone.setBattery({ status: "Charging", currentNow: 900000 });
+        verdictIs(FactoryUtils.Fail, "Charging stops: no");
     }
 
     function test_chargingThatDoesNotStopFails() {
@@ -370,6 +385,10 @@ Driver {
         Phone.cardStatus = SdCardTest.Mounted;
         openTest("VerificationSdCard");
         verdictIs(FactoryUtils.Fail, data.reason);
+        // The next card has not been tested.
+        Phone.cardStatus = SdCardTest.NoCard;
+        compare(value("Card"), "Mounted");
+        compare(page.instructions, "");
     }
 
     function test_memoryCardThatVanishesIsTestedAgain() {
