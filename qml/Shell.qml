@@ -3,6 +3,7 @@ import QtQuick 2.15
 import QtQuick.Window 2.15
 import Kiv 1.0
 import "controls"
+import "controls/Scrolling.js" as Scrolling
 import "flow"
 import "flow/TestTable.js" as TestTable
 
@@ -26,6 +27,8 @@ Item {
     property var pages: ({})
     /*! Whether the present test was opened by itself from the list. */
     property bool single: false
+    /*! The test of the chosen sequence that was open last. */
+    property string lastTest
     property bool quitting: false
 
     /*! A page is gone; what it needed can be given back. */
@@ -66,6 +69,7 @@ Item {
         //% "Checking what this phone has"
         blocking(qsTrId("kiv-working-probing"), function() {
             flow.choose(mode, shell.features());
+            shell.lastTest = "";
             shell.preload();
             shell.show("ListScreen");
         });
@@ -113,12 +117,14 @@ Item {
     }
 
     function showTest() {
-        if (flow.current)
+        if (flow.current) {
+            lastTest = flow.current.name;
             show("TestScreen");
-        else if (single)
+        } else if (single) {
             showList();
-        else
+        } else {
             showSummary();
+        }
     }
 
     /*! The end of a run. */
@@ -212,26 +218,13 @@ Item {
         if (item.enter)
             item.enter(forward);
         else
-            reveal(item);
+            Scrolling.reveal(item);
     }
 
     function isInside(item, other) {
         while (item && item !== other)
             item = item.parent;
         return item === other;
-    }
-
-    function reveal(item) {
-        var view = item.parent;
-        while (view && view.contentY === undefined)
-            view = view.parent;
-        if (!view)
-            return;
-        var top = item.mapToItem(view.contentItem, 0, 0).y;
-        if (top < view.contentY)
-            view.contentY = top;
-        else if (top + item.height > view.contentY + view.height)
-            view.contentY = top + item.height - view.height;
     }
 
     focus: true

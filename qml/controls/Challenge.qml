@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 import QtQuick 2.15
+import "Scrolling.js" as Scrolling
 
 /*!
  * A question that only the hardware answers: the page shows a random value on it and the operator says which.
@@ -158,6 +159,11 @@ Column {
         width: parent.width
         columns: challenge.columns
         spacing: Theme.gap
+        // What was said about a mistake pushes them down.
+        onYChanged: {
+            if (challenge.mistakes.length > 0)
+                Scrolling.reveal(answers);
+        }
 
         Repeater {
             id: buttons

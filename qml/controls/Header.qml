@@ -18,6 +18,7 @@ Item {
 
     PushButton {
         id: backButton
+        objectName: "back"
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: Theme.target

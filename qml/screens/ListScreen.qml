@@ -28,12 +28,20 @@ Item {
 
     ListView {
         id: list
+        objectName: "tests"
         anchors.top: header.bottom
         anchors.bottom: footer.top
         width: parent.width
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         model: screen.flow ? screen.flow.entries : []
+        // Back from a test, the list is where it was left.
+        highlightMoveDuration: 0
+        Component.onCompleted: currentIndex = screen.flow ? Math.max(0, screen.flow.entries.findIndex(isLast)) : 0
+
+        function isLast(entry) {
+            return entry.row.name === screen.shell.lastTest;
+        }
 
         delegate: T.AbstractButton {
             id: line
@@ -124,12 +132,16 @@ Item {
 
             PushButton {
                 id: summaryButton
+                objectName: "summary"
                 readonly property bool useful: screen.flow !== null && screen.flow.anyResults
                 width: useful ? (parent.width - parent.spacing) * 0.4 : 0
                 visible: useful
                 //% "Summary"
                 text: qsTrId("kiv-summary")
-                onClicked: screen.shell.show("SummaryScreen")
+                onClicked: {
+                    screen.shell.reportRun();
+                    screen.shell.show("SummaryScreen");
+                }
             }
             PushButton {
                 width: parent.width - (summaryButton.useful ? summaryButton.width + parent.spacing : 0)

@@ -49,7 +49,7 @@ Item {
         var parts = [];
         if (result.overruled)
             //: The operator's verdict differs from the page's own, which follows, with his reason
-            //% "Overruled by the operator: %2. Measured: %1"
+            //% "Overruled by the operator: %2. Verdict before: %1"
             parts.push(qsTrId("kiv-summary-overruled").arg(Style.word(result.decided)).arg(result.whyText || "-"));
         else if (result.whyText)
             parts.push(result.whyText);

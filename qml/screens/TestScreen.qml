@@ -133,10 +133,10 @@ Item {
     function askWhyOverruled(code) {
         advance.stop();
         sheet.ask({
-            //% "Why against the measurement?"
+            //% "Why against this verdict?"
             title: qsTrId("kiv-overrule-title"),
-            //: The verdict that the phone has measured
-            //% "Measured: %1. The summary will show that you decided otherwise."
+            //: The page's own verdict, from what it measured or what the operator answered
+            //% "Verdict so far: %1. The summary will show that you decided otherwise."
             text: qsTrId("kiv-overrule-text").arg(Style.word(decided)),
             glyph: Style.looks[code].glyph,
             options: [
@@ -149,7 +149,7 @@ Item {
                 //% "A supervisor decided so"
                 { id: "supervisor", text: qsTrId("kiv-overrule-supervisor") }
             ],
-            //% "Keep the measured verdict"
+            //% "Keep this verdict"
             cancelText: qsTrId("kiv-overrule-cancel")
         }, function(option) { screen.record(code, option); });
     }

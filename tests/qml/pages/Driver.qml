@@ -6,6 +6,7 @@ import Kiv 1.0
 import KivFake 1.0
 import "../../../qml"
 import "../../../qml/controls"
+import "../../../qml/controls/Scrolling.js" as Scrolling
 
 /*! What the tests of the screens share: a shell in a window, and hands to work it. */
 TestCase {
@@ -113,7 +114,7 @@ TestCase {
             wait(due);
         }
         if (shell && item !== shell)
-            shell.reveal(item);
+            Scrolling.reveal(item);
         var middle = item.mapToItem(null, x === undefined ? item.width / 2 : x, y === undefined ? item.height / 2 : y);
         lastClick = Date.now();
         lastChanges = Scene.changes;

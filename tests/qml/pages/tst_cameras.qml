@@ -74,6 +74,15 @@ Driver {
         verdictIs(FactoryUtils.Fail);
     }
 
+    /*! What was said about the slip must not push them out of sight. */
+    function test_theAnswersCanBeSeenAfterASlip() {
+        openTest("VerificationBackCamera");
+        reply(find("motion"), false);
+        find("motion").choices.forEach(function(choice) {
+            tryVerify(function() { return isOnScreen("answer-" + choice.value); }, 2000, choice.value);
+        });
+    }
+
     function test_aBadPictureFails() {
         openTest("VerificationFrontCamera");
         solve("motion");

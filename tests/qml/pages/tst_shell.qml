@@ -177,6 +177,24 @@ Driver {
         compare(find("start").text, "Start");
     }
 
+    function test_theListStaysWhereItWas() {
+        toList(TestTable.AllTests);
+        compare(find("tests").contentY, 0);
+        var row = TestTable.row("VerificationZel");
+        var index = shell.flow.entries.findIndex(function(entry) { return entry.row === row; });
+        verify(index > 20);
+        shell.openSingle(row);
+        tryVerify(function() { return page && page.isOpen; });
+        shell.leaveTest();
+        var list = find("tests");
+        tryVerify(function() { return list.itemAtIndex(index) !== null; });
+        var top = list.itemAtIndex(index).y - list.contentY;
+        verify(top >= 0 && top < list.height, top);
+        shell.showHome();
+        toList(TestTable.AllTests);
+        compare(find("tests").contentY, 0);
+    }
+
     function test_aClosedPageIsLetGo() {
         Phone.factoryTests = ["VerificationHallDetect", "VerificationBattery"];
         toList(TestTable.FactoryTests);
