@@ -130,6 +130,7 @@ TestPage {
             satellites: page.satellites
         }
         Row {
+            width: parent.width
             spacing: Theme.gap
 
             Icon {

@@ -85,7 +85,7 @@ TestPage {
                   //% "Look at every picture for dots, lines and stains. Tap for the next one. At the end, count the dots."
                   : qsTrId("kiv-lcd-instructions")
     evidence: false
-    //% "Pass unlocks when you have seen the pictures and counted the dots."
+    //% "Pass unlocks when you have seen the pictures, counted the dots and answered the questions."
     evidenceHint: qsTrId("kiv-lcd-hint")
 
     onOpened: showPictures()

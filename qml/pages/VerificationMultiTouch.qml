@@ -70,7 +70,7 @@ TestPage {
                 horizontalAlignment: Text.AlignHCenter
                 color: Theme.muted
                 font.pixelSize: Theme.small
-                //% "Ends %1 s after the last touch"
+                //% "Ends in %1 s without a touch"
                 text: qsTrId("kiv-multi-touch-patience").arg(page.patience - page.idle)
             }
         }

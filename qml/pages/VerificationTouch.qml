@@ -118,7 +118,7 @@ TestPage {
                     horizontalAlignment: Text.AlignHCenter
                     color: Theme.muted
                     font.pixelSize: Theme.small
-                    //% "Ends %1 s after the last new cell"
+                    //% "Ends in %1 s without a new cell"
                     text: qsTrId("kiv-touch-patience").arg(page.patience - page.idle)
                 }
             }
