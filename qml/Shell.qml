@@ -233,7 +233,13 @@ Item {
         if (key === "")
             return;
         event.accepted = true;
-        if (event.isAutoRepeat || busy || flash.showing || (screen.sideKey && screen.sideKey(key)))
+        if (event.isAutoRepeat || busy)
+            return;
+        if (flash.showing) {
+            flash.item.stay();
+            return;
+        }
+        if (screen.sideKey && screen.sideKey(key))
             return;
         if (key === "power")
             pressFocused();

@@ -4,7 +4,8 @@ import "VerdictStyle.js" as Style
 
 /*!
  * The verdict that was just given, for a moment over the next test. It takes the taps of a hurried finger, which were meant
- * for the test before.
+ * for the test before, and waits until it has come to rest. A failure stays longer: it takes one tap, and who has not
+ * noticed that it counted taps once more.
  */
 Rectangle {
     id: flash
@@ -19,6 +20,11 @@ Rectangle {
         end.restart();
     }
 
+    /*! Somebody is still in a hurry. */
+    function stay() {
+        end.restart();
+    }
+
     visible: false
     color: Theme[look.ink]
     Accessible.role: Accessible.AlertMessage
@@ -26,6 +32,7 @@ Rectangle {
 
     MouseArea {
         anchors.fill: parent
+        onPressed: flash.stay()
     }
     Column {
         anchors.centerIn: parent
@@ -49,7 +56,7 @@ Rectangle {
     }
     Timer {
         id: end
-        interval: 600
+        interval: flash.code === "02" ? 1200 : 600
         onTriggered: flash.visible = false
     }
 }

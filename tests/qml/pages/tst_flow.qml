@@ -144,6 +144,30 @@ Driver {
         });
     }
 
+    function test_anImpatientFingerFailsOneTest_data() {
+        return [{ tag: "on the screen", press: function(at) { mouseClick(shell, at.x, at.y); } },
+                { tag: "on a key", press: function() { keyClick(Qt.Key_VolumeDown); } }];
+    }
+
+    function test_anImpatientFingerFailsOneTest(data) {
+        inTime(function() {
+            startSequence(["VerificationHallDetect", "VerificationHeadset"]);
+            var button = find("fail");
+            var middle = button.mapToItem(shell, button.width / 2, button.height / 2);
+            data.press(middle);
+            for (var i = 0; i < 3; ++i) {
+                var before = Date.now();
+                letPass(800);
+                if (Date.now() - before > 1100)
+                    return false;
+                data.press(middle);
+            }
+            compare(kept("VerificationHallDetect").code, FactoryUtils.Fail);
+            verify(!kept("VerificationHeadset"));
+            return true;
+        });
+    }
+
     function test_sideKeysGiveVerdicts() {
         startSequence(["VerificationHallDetect", "VerificationHeadset", "VerificationBattery"]);
         keyClick(Qt.Key_VolumeDown);
