@@ -13,16 +13,20 @@ Rectangle {
 
     property string code: "00"
     readonly property var look: Style.looks[code]
+    /*! How often it has waited for a finger; not for ever, for a faulty panel may press without one. */
+    property int waits: 0
 
     function show(newCode) {
         code = newCode;
+        waits = 0;
         visible = true;
         end.restart();
     }
 
     /*! Somebody is still in a hurry. */
     function stay() {
-        end.restart();
+        if (++waits <= 5)
+            end.restart();
     }
 
     visible: false

@@ -168,6 +168,18 @@ Driver {
         });
     }
 
+    function test_aPanelThatPressesByItselfHidesNothingForEver() {
+        startSequence(["VerificationHallDetect", "VerificationHeadset"]);
+        tap("fail");
+        for (var i = 0; i < 100 && find("flash").visible; ++i) {
+            mousePress(shell, 180, 100);
+            mouseRelease(shell, 180, 100);
+            letPass(100);
+        }
+        verify(!find("flash").visible);
+        verify(!kept("VerificationHeadset"));
+    }
+
     function test_sideKeysGiveVerdicts() {
         startSequence(["VerificationHallDetect", "VerificationHeadset", "VerificationBattery"]);
         keyClick(Qt.Key_VolumeDown);
